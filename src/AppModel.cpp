@@ -1,0 +1,219 @@
+#include "AppModel.h"
+
+#include "Models/CleanupCatalog.h"
+#include "Platform/ByteCountFormatter.h"
+#include "Platform/DefaultsStore.h"
+#include "Platform/Paths.h"
+#include "QtConversions.h"
+#include "Services/AppSettings.h"
+
+#include <algorithm>
+#include <cmath>
+#include <unordered_map>
+
+using namespace QtConversions;
+
+namespace {
+
+bool gatedOff(const std::string& id, const AppSettings& settings)
+{
+    return (id == "savedstate" && !settings.cleanSavedState()) ||
+           (id == "musiccache" && !settings.cleanMusicCache()) ||
+           (id == "maildownloads" && !settings.cleanMailDownloads());
+}
+
+bool isDeveloperOnly(CleanupCategory category)
+{
+    return category == CleanupCategory::developer || category == CleanupCategory::buildArtifacts;
+}
+
+std::vector<CleanupTarget> liveCatalog(const AppSettings& settings)
+{
+    std::vector<CleanupTarget> live;
+    for (const auto& target : CleanupCatalog::builtIn()) {
+        if ((settings.developerMode() || !isDeveloperOnly(target.category)) && !gatedOff(target.id, settings))
+            live.push_back(target);
+    }
+    if (settings.developerMode()) {
+        const auto finders = CleanupCatalog::finderTargets(toStd(settings.projectRoots()),
+                                                           toStd(settings.ignoredFinderPaths()),
+                                                           static_cast<int>(settings.finderMinAgeDays()));
+        live.insert(live.end(), finders.begin(), finders.end());
+    }
+    for (const auto& folder : settings.customFolders())
+        live.push_back(CleanupTarget::customFolder(toStd(folder)));
+    return live;
+}
+
+std::int64_t knownSize(const TargetState& state) { return state.size.value_or(0); }
+
+SimpleGroup makeGroup(std::string id, std::string title, std::string symbol,
+                      const std::vector<const TargetState*>& members)
+{
+    SimpleGroup group{std::move(id), std::move(title), std::move(symbol), {}, 0, false};
+    for (const TargetState* member : members) {
+        group.targetIDs.push_back(member->id());
+        group.size += knownSize(*member);
+        group.isScanning = group.isScanning || member->isScanning;
+    }
+    return group;
+}
+
+}  // namespace
+
+AppModel& AppModel::shared()
+{
+    // Lives for the whole process: windows and background flows may reach it until exit.
+    static AppModel* const instance = new AppModel(DefaultsStore::standard());
+    return *instance;
+}
+
+AppModel::AppModel(std::shared_ptr<DefaultsStore> defaults, QObject* parent)
+    : QObject(parent), disk_(DiskInfo::current(Paths::home()))
+{
+    settings_ = new AppSettings(std::move(defaults), this);
+    rebuildTargets();
+    connect(settings_, &AppSettings::disabledTargetIDsChanged, this, &AppModel::changed);
+    connect(settings_, &AppSettings::menuBarDisplayChanged, this, &AppModel::changed);
+    connect(settings_, &AppSettings::lowSpaceThresholdGBChanged, this, &AppModel::changed);
+}
+
+AppModel::~AppModel() = default;
+
+void AppModel::setLargeFilesTab(int tab)
+{
+    largeFilesTab_ = tab;
+    emit largeFilesTabChanged();
+    emit changed();
+}
+
+QDateTime AppModel::lastScanDateTime() const
+{
+    return toQt(lastScan_);
+}
+
+void AppModel::rebuildTargets()
+{
+    // A hand-edited custom folder list may name one path twice; either size will do then.
+    std::unordered_map<std::string, std::optional<std::int64_t>> knownSizes;
+    for (const auto& state : targets_)
+        knownSizes.emplace(state.id(), state.size);
+
+    std::vector<TargetState> rebuilt;
+    for (auto& target : liveCatalog(*settings_)) {
+        const auto known = knownSizes.find(target.id);
+        const auto size = known == knownSizes.end() ? std::nullopt : known->second;
+        rebuilt.push_back(TargetState{std::move(target), size, false, false});
+    }
+    publishTargets(std::move(rebuilt));
+}
+
+void AppModel::publishTargets(std::vector<TargetState> targets)
+{
+    targets_ = std::move(targets);
+    emit targetsChanged();
+    emit changed();
+}
+
+void AppModel::refreshDisk()
+{
+    const DiskInfo current = DiskInfo::current(Paths::home());
+    if (current == disk_)
+        return;
+    disk_ = current;
+    emit diskChanged();
+    emit changed();
+}
+
+void AppModel::start()
+{
+    if (didStart_) {
+        refreshDisk();
+        return;
+    }
+    didStart_ = true;
+    refreshDisk();
+}
+
+std::int64_t AppModel::totalReclaimable() const
+{
+    std::int64_t total = 0;
+    for (const auto& state : targets_) {
+        if (settings_->isEnabled(toQt(state.id())))
+            total += knownSize(state);
+    }
+    return total;
+}
+
+std::vector<AppModel::CategoryGroup> AppModel::groupedTargets() const
+{
+    std::vector<CategoryGroup> groups;
+    for (CleanupCategory category : CleanupCategories::all) {
+        std::vector<TargetState> members;
+        std::copy_if(targets_.begin(), targets_.end(), std::back_inserter(members),
+                     [category](const TargetState& state) { return state.target.category == category; });
+        if (members.empty())
+            continue;
+        if (settings_->sortBySize()) {
+            std::stable_sort(members.begin(), members.end(), [](const TargetState& a, const TargetState& b) {
+                return knownSize(a) > knownSize(b);
+            });
+        }
+        groups.emplace_back(category, std::move(members));
+    }
+    return groups;
+}
+
+std::vector<SimpleGroup> AppModel::simpleGroups() const
+{
+    std::vector<const TargetState*> caches, browsers, trash;
+    for (const auto& state : targets_) {
+        if (state.target.category == CleanupCategory::recommended)
+            (state.id() == "trash" ? trash : caches).push_back(&state);
+        else if (state.target.category == CleanupCategory::browsers)
+            browsers.push_back(&state);
+    }
+    std::vector<SimpleGroup> groups;
+    if (!caches.empty())
+        groups.push_back(makeGroup("syscaches", "System & app caches", "shippingbox.fill", caches));
+    if (!browsers.empty())
+        groups.push_back(makeGroup("browsers", "Browser caches", "safari.fill", browsers));
+    if (!trash.empty())
+        groups.push_back(makeGroup("trash", "Trash", "trash.fill", trash));
+    return groups;
+}
+
+void AppModel::setGroupEnabled(bool enabled, const SimpleGroup& group)
+{
+    for (const auto& id : group.targetIDs)
+        settings_->setEnabled(enabled, toQt(id));
+    emit changed();
+}
+
+bool AppModel::isGroupEnabled(const SimpleGroup& group) const
+{
+    return std::none_of(group.targetIDs.begin(), group.targetIDs.end(),
+                        [this](const std::string& id) { return !settings_->isEnabled(toQt(id)); });
+}
+
+bool AppModel::isScanning() const
+{
+    return std::any_of(targets_.begin(), targets_.end(), [](const TargetState& state) { return state.isScanning; });
+}
+
+QString AppModel::menuBarText() const
+{
+    switch (settings_->menuBarDisplay()) {
+    case MenuBarDisplay::percent: {
+        if (disk_.total < 1)
+            return QStringLiteral("0%");
+        const double used = static_cast<double>(std::max<std::int64_t>(0, disk_.total - disk_.availableImportant));
+        return QString::number(std::llround(used / static_cast<double>(disk_.total) * 100.0)) + "%";
+    }
+    case MenuBarDisplay::free:
+        return toQt(ByteCountFormatter::menuBarString(disk_.availableImportant));
+    case MenuBarDisplay::icon:
+        break;
+    }
+    return {};
+}

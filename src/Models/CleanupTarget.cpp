@@ -1,0 +1,91 @@
+#include "Models/CleanupTarget.h"
+
+#include "Platform/Paths.h"
+
+namespace {
+
+std::vector<std::string> expandedAll(const std::vector<std::string>& paths)
+{
+    std::vector<std::string> lines;
+    lines.reserve(paths.size());
+    for (const auto& path : paths)
+        lines.push_back(Paths::expandingTilde(path));
+    return lines;
+}
+
+std::string joined(const std::vector<std::string>& parts, const std::string& separator)
+{
+    std::string text;
+    for (std::size_t i = 0; i < parts.size(); ++i) {
+        if (i > 0)
+            text += separator;
+        text += parts[i];
+    }
+    return text;
+}
+
+std::string lastPathComponent(const std::string& path)
+{
+    std::string trimmed = path;
+    while (trimmed.size() > 1 && trimmed.back() == '/')
+        trimmed.pop_back();
+    const auto slash = trimmed.rfind('/');
+    return slash == std::string::npos ? trimmed : trimmed.substr(slash + 1);
+}
+
+}  // namespace
+
+CleanupTarget CleanupTarget::customFolder(const std::string& path)
+{
+    std::string name = lastPathComponent(path);
+    if (name.empty())
+        name = path;
+    return CleanupTarget{"custom:" + path, name, "folder.fill", path, PathsKind{{path}},
+                         CleanupCategory::custom, false};
+}
+
+std::vector<std::string> CleanupTarget::displayPaths() const
+{
+    if (const auto* paths = std::get_if<PathsKind>(&kind))
+        return expandedAll(paths->paths);
+    if (const auto* command = std::get_if<CommandKind>(&kind))
+        return expandedAll(command->fallbackPaths);
+    const auto& finder = std::get<FinderKind>(kind);
+    std::vector<std::string> lines;
+    for (const auto& root : finder.roots)
+        lines.push_back(Paths::expandingTilde(root) + " → " + joined(finder.names, ", "));
+    return lines;
+}
+
+std::string CleanupTarget::whySafe() const
+{
+    // Sentences that belong to one target come before the ones for its whole category.
+    if (id == "trash")
+        return "These are items you already moved to the Trash.";
+    if (id == "logs")
+        return "Old diagnostic logs. Apps write fresh ones as needed — nothing you use is lost.";
+    if (id == "musiccache")
+        return "Streamed songs re-cache automatically the next time you play them.";
+    if (id == "savedstate")
+        return "Apps just won't reopen last session's windows. It doesn't log you out or lose data.";
+    if (id == "maildownloads")
+        return "Temp copies of attachments you opened. Re-copied on demand; originals stay on the server.";
+    if (id == "docker")
+        return "Docker recreates images, layers and build cache the next time you build or pull.";
+    if (id == "node_modules")
+        return "Reinstalled instantly with npm / yarn / pnpm install.";
+    if (id == "derived")
+        return "Xcode rebuilds DerivedData on your next build.";
+    switch (category) {
+    case CleanupCategory::custom:
+        return "A folder you added yourself — only its contents are cleared.";
+    case CleanupCategory::buildArtifacts:
+        return "Rebuilt the next time you build the project (npm install, cargo build, …).";
+    case CleanupCategory::developer:
+        return "Re-downloaded or rebuilt automatically the next time you build or install.";
+    case CleanupCategory::recommended:
+    case CleanupCategory::browsers:
+        break;
+    }
+    return "Apps and websites recreate these caches automatically when they next need them.";
+}

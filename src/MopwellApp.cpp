@@ -1,0 +1,44 @@
+#include "MopwellApp.h"
+
+#include "AppModel.h"
+
+#include <QApplication>
+#include <QIcon>
+#include <QQuickWindow>
+
+MopwellApp::MopwellApp(QObject* parent) : QObject(parent), model_(AppModel::shared()) {}
+
+void MopwellApp::launch()
+{
+    engine_.setInitialProperties({{QStringLiteral("appModel"), QVariant::fromValue(&model_)}});
+    engine_.load(QUrl(QStringLiteral("qrc:/Views/PlaceholderPanelView.qml")));
+    if (!QSystemTrayIcon::isSystemTrayAvailable()) {
+        // Without a status area the panel is the application: closing it quits.
+        QApplication::setQuitOnLastWindowClosed(true);
+        showPanel();
+        return;
+    }
+    statusItem_ = std::make_unique<QSystemTrayIcon>(QIcon::fromTheme(QStringLiteral("drive-harddisk")));
+    connect(statusItem_.get(), &QSystemTrayIcon::activated, this, &MopwellApp::showPanel);
+    connect(&model_, &AppModel::changed, this, &MopwellApp::refreshStatusItem);
+    refreshStatusItem();
+    statusItem_->show();
+}
+
+void MopwellApp::showPanel()
+{
+    model_.start();
+    for (QObject* root : engine_.rootObjects()) {
+        if (auto* window = qobject_cast<QQuickWindow*>(root)) {
+            window->show();
+            window->raise();
+            window->requestActivate();
+        }
+    }
+}
+
+void MopwellApp::refreshStatusItem()
+{
+    if (statusItem_)
+        statusItem_->setToolTip(model_.menuBarText());
+}

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <string>
+
+// The user's home folder and the path spellings built on it.
+namespace Paths {
+
+// $HOME when set, else the password database's entry for the user. Read on every call, so a
+// test that points HOME at a temporary folder is seen at once.
+std::string home();
+
+// "~" alone or a leading "~/" becomes the home folder; anything else is returned unchanged.
+std::string expandingTilde(const std::string& path);
+
+// The home folder at the start of `path` becomes "~", for what the user reads.
+std::string abbreviatingWithTilde(const std::string& path);
+
+// An absolute path with the symbolic links of its existing part resolved, the rest kept as
+// written, and "." and ".." removed. A relative path is taken from the working folder.
+std::string resolvingSymlinks(const std::string& path);
+
+}  // namespace Paths

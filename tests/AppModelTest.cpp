@@ -1,0 +1,224 @@
+#include "AppModel.h"
+#include "Platform/DefaultsStore.h"
+#include "Services/AppSettings.h"
+#include "Support/TempHome.h"
+
+#include <QSignalSpy>
+#include <gmock/gmock.h>
+
+using ::testing::ElementsAre;
+using ::testing::ElementsAreArray;
+
+// Reaches the model's state so derived values can be checked against chosen sizes and disk figures.
+struct AppModelTestAccess {
+    static void setSize(AppModel& model, const std::string& id, std::optional<std::int64_t> size)
+    {
+        for (auto& state : model.targets_) {
+            if (state.id() == id)
+                state.size = size;
+        }
+    }
+    static void setScanning(AppModel& model, const std::string& id)
+    {
+        for (auto& state : model.targets_) {
+            if (state.id() == id)
+                state.isScanning = true;
+        }
+    }
+    static void setDisk(AppModel& model, DiskInfo disk) { model.disk_ = disk; }
+};
+
+namespace {
+
+class AppModelTest : public TempHomeTest {
+protected:
+    std::shared_ptr<DefaultsStore> store = std::make_shared<DefaultsStore>(tempHome.configHome() + "/mopwell/defaults.plist");
+    AppModel model{store};
+    AppSettings& settings = *model.settings();
+
+    std::vector<std::string> ids() const
+    {
+        std::vector<std::string> result;
+        for (const auto& state : model.targets())
+            result.push_back(state.id());
+        return result;
+    }
+    const TargetState& state(const std::string& id) const
+    {
+        for (const auto& candidate : model.targets()) {
+            if (candidate.id() == id)
+                return candidate;
+        }
+        throw std::out_of_range(id);
+    }
+    void size(const std::string& id, std::optional<std::int64_t> bytes) { AppModelTestAccess::setSize(model, id, bytes); }
+};
+
+}  // namespace
+
+TEST_F(AppModelTest, DefaultSettingsGiveTheSimpleTargetList)
+{
+    EXPECT_THAT(ids(), ElementsAre("trash", "appcaches", "logs", "maildownloads", "chrome", "safari", "firefox"));
+    for (const auto& state : model.targets()) {
+        EXPECT_EQ(state.size, std::nullopt);
+        EXPECT_FALSE(state.isScanning);
+        EXPECT_FALSE(state.isCleaning);
+    }
+}
+
+TEST_F(AppModelTest, DeveloperModeAndOptionalCachesShapeTheList)
+{
+    settings.setDeveloperMode(true);
+    settings.setCleanSavedState(true);
+    settings.setCleanMusicCache(true);
+    settings.setCustomFolders({"/data/old", "/data/tmp/"});
+    model.rebuildTargets();
+    const auto all = ids();
+    ASSERT_EQ(all.size(), 27u + 5u + 2u);
+    EXPECT_EQ(all[26], "ml");
+    EXPECT_THAT(std::vector<std::string>(all.begin() + 27, all.end()),
+                ElementsAre("node_modules", "next_build", "rust_target", "pycache", "venv", "custom:/data/old",
+                            "custom:/data/tmp/"));
+    EXPECT_EQ(state("custom:/data/tmp/").target.name, "tmp");
+
+    // The finder rows carry the roots, ignores and the age truncated to whole days.
+    settings.setFinderMinAgeDays(6.9);
+    settings.setIgnoredFinderPaths({"/src/keep"});
+    model.rebuildTargets();
+    const auto& finder = std::get<FinderKind>(state("venv").target.kind);
+    EXPECT_EQ(finder.minAgeDays, 6);
+    EXPECT_EQ(finder.ignore, std::vector<std::string>{"/src/keep"});
+    EXPECT_EQ(finder.roots, (std::vector<std::string>{tempHome.home() + "/src", tempHome.home() + "/dev"}));
+
+    // The three gates hold in developer mode too.
+    settings.setCleanMailDownloads(false);
+    settings.setCleanSavedState(false);
+    model.rebuildTargets();
+    const auto gated = ids();
+    EXPECT_EQ(std::count(gated.begin(), gated.end(), "maildownloads"), 0);
+    EXPECT_EQ(std::count(gated.begin(), gated.end(), "savedstate"), 0);
+    EXPECT_EQ(gated.size(), 25u + 5u + 2u);
+}
+
+TEST_F(AppModelTest, RebuildKeepsSizesOnlyForIdsThatStayed)
+{
+    size("logs", 500);
+    settings.setDeveloperMode(true);
+    model.rebuildTargets();
+    size("gradle", 700);
+    EXPECT_EQ(state("logs").size, 500);
+
+    settings.setDeveloperMode(false);
+    model.rebuildTargets();
+    settings.setDeveloperMode(true);
+    model.rebuildTargets();
+    EXPECT_EQ(state("logs").size, 500);
+    EXPECT_EQ(state("gradle").size, std::nullopt);  // left the list in between
+}
+
+TEST_F(AppModelTest, RebuildToleratesADuplicatedCustomFolder)
+{
+    store->set("customFolders", std::vector<std::string>{"/data/x", "/data/x"});
+    AppModel edited(store);
+    AppModelTestAccess::setSize(edited, "custom:/data/x", 9);
+    edited.rebuildTargets();
+    ASSERT_EQ(edited.targets().size(), 9u);
+    EXPECT_EQ(edited.targets()[7].size, 9);
+    EXPECT_EQ(edited.targets()[8].size, 9);
+}
+
+TEST_F(AppModelTest, TotalsCountKnownSizesOfEnabledTargetsOnly)
+{
+    size("trash", 100);
+    size("appcaches", 1000);
+    size("chrome", 10);
+    EXPECT_EQ(model.totalReclaimable(), 1110);
+    QSignalSpy changed(&model, &AppModel::changed);
+    settings.setEnabled(false, "appcaches");
+    EXPECT_EQ(model.totalReclaimable(), 110);
+    EXPECT_GE(changed.count(), 1);
+
+    // Group sizes include disabled members.
+    const auto groups = model.simpleGroups();
+    ASSERT_EQ(groups.size(), 3u);
+    EXPECT_EQ(groups[0].id, "syscaches");
+    EXPECT_EQ(groups[0].title, "System & app caches");
+    EXPECT_THAT(groups[0].targetIDs, ElementsAre("appcaches", "logs", "maildownloads"));
+    EXPECT_EQ(groups[0].size, 1000);
+    EXPECT_EQ(groups[1].id, "browsers");
+    EXPECT_EQ(groups[1].symbol, "safari.fill");
+    EXPECT_THAT(groups[1].targetIDs, ElementsAre("chrome", "safari", "firefox"));
+    EXPECT_EQ(groups[2].id, "trash");
+    EXPECT_THAT(groups[2].targetIDs, ElementsAre("trash"));
+    EXPECT_EQ(groups[2].size, 100);
+    EXPECT_FALSE(groups[0].isScanning);
+
+    AppModelTestAccess::setScanning(model, "logs");
+    EXPECT_TRUE(model.simpleGroups()[0].isScanning);
+    EXPECT_TRUE(model.isScanning());
+}
+
+TEST_F(AppModelTest, GroupsSwitchAllTheirMembersTogether)
+{
+    const auto browsers = model.simpleGroups()[1];
+    settings.setEnabled(false, "safari");
+    EXPECT_FALSE(model.isGroupEnabled(browsers));
+    model.setGroupEnabled(true, browsers);
+    EXPECT_TRUE(model.isGroupEnabled(browsers));
+    model.setGroupEnabled(false, browsers);
+    EXPECT_FALSE(model.isGroupEnabled(browsers));
+    EXPECT_EQ(DefaultsStore(store->path()).stringArray("disabledTargetIDs"),
+              (std::vector<std::string>{"chrome", "firefox", "safari"}));
+}
+
+TEST_F(AppModelTest, GroupedTargetsFollowCategoryOrderAndOptionallySize)
+{
+    settings.setCustomFolders({"/data/a"});
+    model.rebuildTargets();
+    size("safari", 5);
+    size("firefox", 5);
+    size("chrome", std::nullopt);
+    auto grouped = model.groupedTargets();
+    ASSERT_EQ(grouped.size(), 3u);  // developer and build-artifact sections are empty and left out
+    EXPECT_EQ(grouped[0].first, CleanupCategory::recommended);
+    EXPECT_EQ(grouped[1].first, CleanupCategory::browsers);
+    EXPECT_EQ(grouped[2].first, CleanupCategory::custom);
+    EXPECT_EQ(grouped[1].second[0].id(), "chrome");
+
+    settings.setSortBySize(true);
+    grouped = model.groupedTargets();
+    std::vector<std::string> browsers;
+    for (const auto& state : grouped[1].second)
+        browsers.push_back(state.id());
+    // Equal sizes keep their order; an unknown size sorts as 0.
+    EXPECT_THAT(browsers, ElementsAre("safari", "firefox", "chrome"));
+}
+
+TEST_F(AppModelTest, MenuBarTextFollowsTheChosenDisplay)
+{
+    AppModelTestAccess::setDisk(model, {0, 0});
+    EXPECT_EQ(model.menuBarText(), "0%");
+    AppModelTestAccess::setDisk(model, {1000, 125});
+    EXPECT_EQ(model.menuBarText(), "88%");  // 87.5 rounds away from zero
+    AppModelTestAccess::setDisk(model, {1000, 2000});
+    EXPECT_EQ(model.menuBarText(), "0%");  // more available than total never goes negative
+    AppModelTestAccess::setDisk(model, {1000, 1000});
+    EXPECT_EQ(model.menuBarText(), "0%");
+
+    AppModelTestAccess::setDisk(model, {500'000'000'000, 123'456'000'000});
+    settings.setMenuBarDisplay(MenuBarDisplay::free);
+    EXPECT_EQ(model.menuBarText(), "123.46 GB");
+    settings.setMenuBarDisplay(MenuBarDisplay::icon);
+    EXPECT_EQ(model.menuBarText(), "");
+}
+
+TEST_F(AppModelTest, StartRunsOnceAndRefreshesTheDiskEveryTime)
+{
+    AppModelTestAccess::setDisk(model, {1, 1});
+    model.start();
+    EXPECT_TRUE(model.didStart());
+    EXPECT_GT(model.disk().total, 1);  // refreshed from the real volume of the home folder
+    AppModelTestAccess::setDisk(model, {1, 1});
+    model.start();
+    EXPECT_GT(model.disk().total, 1);
+}
