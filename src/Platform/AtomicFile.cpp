@@ -1,8 +1,9 @@
 #include "Platform/AtomicFile.h"
 
+#include "Platform/FileSystem.h"
+
 #include <cerrno>
 #include <fcntl.h>
-#include <sys/stat.h>
 #include <unistd.h>
 #include <vector>
 
@@ -15,17 +16,6 @@ std::string parentOf(const std::string& path)
     if (slash == std::string::npos)
         return ".";
     return slash == 0 ? "/" : path.substr(0, slash);
-}
-
-void makeFolders(const std::string& folder)
-{
-    if (folder.empty() || folder == "/" || folder == ".")
-        return;
-    struct stat info {};
-    if (stat(folder.c_str(), &info) == 0)
-        return;
-    makeFolders(parentOf(folder));
-    mkdir(folder.c_str(), 0700);
 }
 
 bool writeAll(int fd, std::string_view contents)
@@ -84,7 +74,7 @@ ReadResult read(const std::string& path)
 bool replace(const std::string& path, std::string_view contents)
 {
     const std::string folder = parentOf(path);
-    makeFolders(folder);
+    FileSystem::createFolders(folder);
     std::string temporary = path + ".XXXXXX";
     const int fd = mkostemp(temporary.data(), O_CLOEXEC);
     if (fd < 0)

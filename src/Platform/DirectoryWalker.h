@@ -1,0 +1,41 @@
+#pragma once
+
+#include "Platform/ItemInfo.h"
+
+#include <string>
+#include <string_view>
+
+// Walks a folder tree depth first through directory descriptors: one listing per folder, one
+// metadata call per entry, links never followed, entries in the order the folder lists them.
+// Only a bounded number of descriptors stay open however deep the tree is: past a fixed depth
+// the walker climbs back with "..", checking that it arrives where it came from, so trees
+// thousands of levels deep and paths longer than the system limit are walked without recursion.
+class DirectoryWalker {
+public:
+    enum class Action { descend, skip, stop };
+
+    struct Entry {
+        int parentDescriptor;  // the open folder holding the entry; valid during the call only
+        std::string_view name;
+        const ItemInfo& info;
+        int depth;  // 1 for the root's own children
+    };
+
+    class Visitor {
+    public:
+        virtual ~Visitor() = default;
+        // Every entry below the root, before a folder's contents. Only `descend` enters a folder.
+        virtual Action visit(const Entry& entry) = 0;
+        // A folder entered with `descend`, after all its contents.
+        virtual void leave(const Entry& folder) { (void)folder; }
+        // A folder that could not be opened or listed; its contents are left out.
+        virtual void unreadable(const Entry& folder) { (void)folder; }
+    };
+
+    // Walks below `root`, which is followed if it is a link. False when the root can't be opened
+    // as a folder, or the walk stopped early (a visitor's `stop`, or the tree moved under it).
+    static bool walk(const std::string& root, Visitor& visitor);
+
+    // The same below an already open folder, which the walker does not close.
+    static bool walkDescriptor(int folderDescriptor, Visitor& visitor);
+};
