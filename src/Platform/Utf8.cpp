@@ -1,0 +1,71 @@
+#include "Platform/Utf8.h"
+
+#include <cstddef>
+
+namespace Utf8 {
+namespace {
+
+bool isContinuation(unsigned char byte)
+{
+    return (byte & 0xC0) == 0x80;
+}
+
+// The permitted range of the byte after `lead`. The narrowed ranges after E0, ED, F0 and F4 are
+// what excludes overlong forms, surrogates and code points above U+10FFFF.
+void secondByteRange(unsigned char lead, unsigned char& low, unsigned char& high)
+{
+    low = 0x80;
+    high = 0xBF;
+    if (lead == 0xE0)
+        low = 0xA0;
+    else if (lead == 0xED)
+        high = 0x9F;
+    else if (lead == 0xF0)
+        low = 0x90;
+    else if (lead == 0xF4)
+        high = 0x8F;
+}
+
+// The length of the sequence a lead byte starts, or 0 when no sequence may start with it
+// (continuation bytes, C0 and C1 which could only be overlong, F5 and above).
+std::size_t sequenceLength(unsigned char lead)
+{
+    if (lead < 0x80)
+        return 1;
+    if (lead >= 0xC2 && lead <= 0xDF)
+        return 2;
+    if (lead >= 0xE0 && lead <= 0xEF)
+        return 3;
+    if (lead >= 0xF0 && lead <= 0xF4)
+        return 4;
+    return 0;
+}
+
+}  // namespace
+
+bool isValid(std::string_view bytes)
+{
+    std::size_t index = 0;
+    while (index < bytes.size()) {
+        const auto lead = static_cast<unsigned char>(bytes[index]);
+        const std::size_t length = sequenceLength(lead);
+        if (length == 0 || bytes.size() - index < length)
+            return false;
+        if (length > 1) {
+            unsigned char low = 0;
+            unsigned char high = 0;
+            secondByteRange(lead, low, high);
+            const auto second = static_cast<unsigned char>(bytes[index + 1]);
+            if (second < low || second > high)
+                return false;
+            for (std::size_t offset = 2; offset < length; ++offset) {
+                if (!isContinuation(static_cast<unsigned char>(bytes[index + offset])))
+                    return false;
+            }
+        }
+        index += length;
+    }
+    return true;
+}
+
+}  // namespace Utf8
