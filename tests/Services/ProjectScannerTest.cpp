@@ -1,0 +1,83 @@
+#include "Platform/FileSystem.h"
+#include "Services/ProjectScanner.h"
+#include "Services/Scanner.h"
+#include "Support/TempHome.h"
+
+#include <gmock/gmock.h>
+
+#include <map>
+
+using ::testing::ElementsAre;
+using ::testing::Pair;
+using ::testing::UnorderedElementsAre;
+using ProjectScannerTest = TempHomeTest;
+
+namespace {
+
+// What the callbacks saw, in the order they came.
+struct Recorder {
+    std::vector<std::string> events;
+    std::vector<ProjectDir> found;
+
+    void scan(const std::vector<std::string>& ignore, const std::shared_ptr<CancelToken>& token,
+              const std::function<void()>& afterFound = {})
+    {
+        ProjectScanner::scan(
+            {"~/Code"}, ignore, 0, token, [&](int count) { events.push_back("progress " + std::to_string(count)); },
+            [&](const ProjectDir& dir) {
+                events.push_back("found");
+                found.push_back(dir);
+                if (afterFound)
+                    afterFound();
+            });
+    }
+};
+
+}  // namespace
+
+TEST_F(ProjectScannerTest, EachFolderIsMeasuredStampedAndReportedAfterItsProgress)
+{
+    tempHome.writeFile("Code/app/package.json");
+    tempHome.writeFile("Code/app/node_modules/lib/index.js", std::string(20000, 'x'));
+    tempHome.writeFile("Code/rs/Cargo.toml");
+    tempHome.writeFile("Code/rs/target/debug/app", std::string(5000, 'y'));
+    tempHome.writeFile("Code/skip/pyproject.toml");
+    tempHome.makeFolder("Code/skip/.venv");
+
+    Recorder recorder;
+    recorder.scan({"~/Code/skip"}, std::make_shared<CancelToken>());
+
+    EXPECT_THAT(recorder.events, ElementsAre("progress 1", "found", "progress 2", "found"));
+    const std::string modules = tempHome.home() + "/Code/app/node_modules";
+    const std::string target = tempHome.home() + "/Code/rs/target";
+    std::map<std::string, std::string> kinds;
+    for (const auto& dir : recorder.found) {
+        kinds[dir.path] = dir.kindID + " " + dir.kindLabel + " " + dir.symbol;
+        EXPECT_EQ(dir.size, Scanner::directorySize(dir.path));
+        EXPECT_GT(dir.size, 0);
+        EXPECT_EQ(dir.modified, FileSystem::info(dir.path)->modified);
+    }
+    EXPECT_THAT(kinds, UnorderedElementsAre(Pair(modules, "node_modules node_modules shippingbox.fill"),
+                                            Pair(target, "target target shippingbox.fill")));
+}
+
+TEST_F(ProjectScannerTest, ACancelledTokenStopsBeforeTheNextFolder)
+{
+    for (const char* project : {"a", "b", "c"}) {
+        tempHome.writeFile(std::string("Code/") + project + "/package.json");
+        tempHome.makeFolder(std::string("Code/") + project + "/node_modules");
+    }
+
+    auto token = std::make_shared<CancelToken>();
+    Recorder cancelledInside;
+    cancelledInside.scan({}, token, [&] { token->cancel(); });
+    EXPECT_THAT(cancelledInside.events, ElementsAre("progress 1", "found"));
+
+    Recorder cancelledBefore;
+    cancelledBefore.scan({}, token);
+    EXPECT_TRUE(cancelledBefore.events.empty());
+
+    Recorder uncancelled;
+    uncancelled.scan({}, std::make_shared<CancelToken>());
+    EXPECT_EQ(uncancelled.found.size(), 3u);
+}
