@@ -1,5 +1,8 @@
 #include "Models/CleanupCatalog.h"
 
+#include "Platform/Paths.h"
+#include "Platform/Trash.h"
+
 namespace CleanupCatalog {
 namespace {
 
@@ -17,12 +20,19 @@ CleanupTarget command(std::string id, std::string name, std::string symbol, std:
             CommandKind{std::move(shell), std::move(fallback)}, CleanupCategory::developer, true};
 }
 
+// The desktop's Trash as a catalog path. Emptying it clears its files/ and info/ folders
+// together, so no record outlives its item.
+std::string trashLocation()
+{
+    return Paths::abbreviatingWithTilde(Trash::homeTrashFolder());
+}
+
 std::vector<CleanupTarget> makeBuiltIn()
 {
     using enum CleanupCategory;
     const std::string cached = "Cached web data — pages reload as needed";
     return {
-        paths("trash", "Trash", "trash.fill", "Empty the Trash", {"~/.Trash"}, recommended),
+        paths("trash", "Trash", "trash.fill", "Empty the Trash", {trashLocation()}, recommended),
         paths("appcaches", "App cache files", "shippingbox.fill",
               "Temporary files apps recreate as needed", {"~/Library/Caches"}, recommended),
         paths("logs", "App & system logs", "doc.text.fill", "Old log files", {"~/Library/Logs"},
@@ -102,10 +112,9 @@ CleanupTarget finder(std::string id, std::string name, std::string detail,
 
 }  // namespace
 
-const std::vector<CleanupTarget>& builtIn()
+std::vector<CleanupTarget> builtIn()
 {
-    static const std::vector<CleanupTarget> catalog = makeBuiltIn();
-    return catalog;
+    return makeBuiltIn();
 }
 
 std::vector<CleanupTarget> finderTargets(const std::vector<std::string>& roots,

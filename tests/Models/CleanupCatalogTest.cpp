@@ -8,7 +8,7 @@ using ::testing::ElementsAreArray;
 
 namespace {
 
-const CleanupTarget& builtIn(const std::string& id)
+CleanupTarget builtIn(const std::string& id)
 {
     for (const auto& target : CleanupCatalog::builtIn()) {
         if (target.id == id)

@@ -38,7 +38,7 @@ TempHome::TempHome()
     }
     const std::map<std::string, std::string> values = {
         {"HOME", home_}, {"XDG_CONFIG_HOME", configHome()}, {"XDG_DATA_HOME", dataHome()},
-        {"XDG_CACHE_HOME", root_ + "/cache"}};
+        {"XDG_CACHE_HOME", home_ + "/.cache"}};
     for (const auto& [name, value] : values) {
         fs::create_directories(value);
         setenv(name.c_str(), value.c_str(), 1);

@@ -17,8 +17,9 @@ public:
 
     const std::string& root() const { return root_; }
     const std::string& home() const { return home_; }
-    std::string configHome() const { return root_ + "/config"; }
-    std::string dataHome() const { return root_ + "/data"; }
+    // The XDG folders where most desktops leave them: inside the home folder.
+    std::string configHome() const { return home_ + "/.config"; }
+    std::string dataHome() const { return home_ + "/.local/share"; }
 
     // Creates a file (and its folders) below the home folder; `relative` has no leading "/".
     std::string writeFile(const std::string& relative, const std::string& contents = {}) const;

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "Models/TrashedItem.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+// What one clean achieved.
+struct CleanOutcome {
+    std::int64_t freed = 0;              // measured drop of the target's size, never below 0
+    std::optional<std::string> error;    // for the user; none when all went well
+    std::vector<TrashedItem> trashed;
+};

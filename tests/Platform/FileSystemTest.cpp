@@ -1,0 +1,149 @@
+#include "Platform/DirectoryWalker.h"
+#include "Platform/FileSystem.h"
+#include "Support/DroppedCapabilities.h"
+#include "Support/TempHome.h"
+#include "Support/TreeBuilder.h"
+
+#include <filesystem>
+#include <sys/stat.h>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+// Counts what the walker shows and watches the descriptors it holds.
+class CountingVisitor : public DirectoryWalker::Visitor {
+public:
+    DirectoryWalker::Action visit(const DirectoryWalker::Entry& entry) override
+    {
+        ++entries;
+        maxDepth = std::max(maxDepth, entry.depth);
+        if (entry.info.isSymlink())
+            ++links;
+        if (entry.depth % 500 == 0)
+            maxDescriptors = std::max(maxDescriptors, TreeBuilder::openDescriptorCount());
+        return entry.info.isFolder() ? DirectoryWalker::Action::descend : DirectoryWalker::Action::skip;
+    }
+    void leave(const DirectoryWalker::Entry&) override { ++left; }
+    void unreadable(const DirectoryWalker::Entry&) override { ++unreadableFolders; }
+
+    int entries = 0, links = 0, left = 0, unreadableFolders = 0, maxDepth = 0, maxDescriptors = 0;
+};
+
+}  // namespace
+
+TEST_F(TempHomeTest, WalkerGoesThousandsOfLevelsDeepWithFewDescriptors)
+{
+    const std::string root = tempHome.makeFolder("deep");
+    TreeBuilder::makeDeepChain(root, 1200, "level-with-a-longish-name", 10);
+    CountingVisitor visitor;
+    EXPECT_TRUE(DirectoryWalker::walk(root, visitor));
+    EXPECT_EQ(visitor.maxDepth, 1201);  // the file below the 1200th folder
+    EXPECT_EQ(visitor.entries, 1201);
+    EXPECT_EQ(visitor.left, 1200);
+    EXPECT_LT(visitor.maxDescriptors, 120);  // bounded, although the path is far past PATH_MAX
+
+    EXPECT_TRUE(FileSystem::removeItem(root + "/level-with-a-longish-name"));
+    EXPECT_EQ(TreeBuilder::chainDepth(root, "level-with-a-longish-name"), 0);
+}
+
+TEST_F(TempHomeTest, WalkerNeverFollowsLinksAndSurvivesLoops)
+{
+    const std::string root = tempHome.makeFolder("tree");
+    TreeBuilder::writeFile(tempHome.home() + "/outside/big.bin", 100);
+    fs::create_directory_symlink(tempHome.home() + "/outside", root + "/to-outside");
+    fs::create_directory_symlink(root, root + "/loop");
+    fs::create_directories(root + "/a/b");
+    fs::create_directory_symlink("..", root + "/a/b/up");
+    CountingVisitor visitor;
+    EXPECT_TRUE(DirectoryWalker::walk(root, visitor));
+    EXPECT_EQ(visitor.entries, 5);  // to-outside, loop, a, b, up
+    EXPECT_EQ(visitor.links, 3);
+}
+
+TEST_F(TempHomeTest, RemovingATreeRemovesLinksNotWhatTheyPointAt)
+{
+    const std::string home = tempHome.home();
+    TreeBuilder::writeFile(home + "/keep/precious.txt", 5);
+    TreeBuilder::writeFile(home + "/doomed/inner/file.txt", 5);
+    fs::create_directory_symlink(home + "/keep", home + "/doomed/inner/link-to-keep");
+    fs::create_symlink(home + "/keep/precious.txt", home + "/doomed/file-link");
+    fs::create_symlink(home + "/nowhere", home + "/doomed/dangling");
+    TreeBuilder::writeFile(home + "/doomed/name with spaces\nand newline", 1);
+    TreeBuilder::writeFile(home + "/doomed/bad-\xff\xfe-utf8", 1);
+
+    EXPECT_TRUE(FileSystem::removeItem(home + "/doomed"));
+    EXPECT_FALSE(FileSystem::exists(home + "/doomed"));
+    EXPECT_TRUE(fs::exists(home + "/keep/precious.txt"));
+
+    // A link given directly goes as a link.
+    fs::create_directory_symlink(home + "/keep", home + "/link");
+    EXPECT_TRUE(FileSystem::removeItem(home + "/link"));
+    EXPECT_TRUE(fs::exists(home + "/keep/precious.txt"));
+    EXPECT_TRUE(FileSystem::removeItem(home + "/never-there"));
+}
+
+TEST_F(TempHomeTest, UnreadableFoldersAreReportedAndKept)
+{
+    const std::string home = tempHome.home();
+    TreeBuilder::writeFile(home + "/tree/open/a.txt", 1);
+    TreeBuilder::writeFile(home + "/tree/locked/secret.txt", 1);
+    chmod((home + "/tree/locked").c_str(), 0);
+    {
+        DroppedCapabilities dropped;
+        MOPWELL_REQUIRE_ENFORCED_PERMISSIONS(dropped);
+        CountingVisitor visitor;
+        EXPECT_TRUE(DirectoryWalker::walk(home + "/tree", visitor));
+        EXPECT_EQ(visitor.unreadableFolders, 1);
+        EXPECT_EQ(visitor.entries, 3);  // open, a.txt, locked — nothing from inside locked
+
+        EXPECT_FALSE(FileSystem::removeItem(home + "/tree"));
+        EXPECT_FALSE(fs::exists(home + "/tree/open"));  // what could go, went
+    }
+    chmod((home + "/tree/locked").c_str(), 0755);
+    EXPECT_TRUE(fs::exists(home + "/tree/locked/secret.txt"));
+}
+
+TEST_F(TempHomeTest, AnEntryThatVanishesMidWalkIsPassedOver)
+{
+    const std::string root = tempHome.makeFolder("racy");
+    for (int i = 0; i < 20; ++i)
+        TreeBuilder::writeFile(root + "/f" + std::to_string(i), 1);
+
+    // Removes every other entry the moment the first one is seen, after the listing was made.
+    class Vanisher : public DirectoryWalker::Visitor {
+    public:
+        explicit Vanisher(std::string root) : root_(std::move(root)) {}
+        DirectoryWalker::Action visit(const DirectoryWalker::Entry&) override
+        {
+            if (seen++ == 0) {
+                for (const auto& entry : fs::directory_iterator(root_))
+                    fs::remove(entry.path());
+            }
+            return DirectoryWalker::Action::skip;
+        }
+        int seen = 0;
+
+    private:
+        std::string root_;
+    } vanisher(root);
+    EXPECT_TRUE(DirectoryWalker::walk(root, vanisher));
+    EXPECT_EQ(vanisher.seen, 1);
+}
+
+TEST_F(TempHomeTest, BasicItemQueries)
+{
+    const std::string home = tempHome.home();
+    TreeBuilder::writeFile(home + "/f.bin", 1);
+    fs::create_symlink(home + "/f.bin", home + "/l");
+    fs::create_directory_symlink(home, home + "/dl");
+    EXPECT_TRUE(FileSystem::info(home + "/l")->isSymlink());
+    EXPECT_TRUE(FileSystem::infoFollowingLinks(home + "/l")->isRegularFile());
+    EXPECT_GE(FileSystem::info(home + "/f.bin")->allocatedSize, 512);  // a 1-byte file takes a block
+    EXPECT_EQ(FileSystem::info(home + "/f.bin")->logicalSize, 1);
+    EXPECT_TRUE(FileSystem::isFolderFollowingLinks(home + "/dl"));
+    EXPECT_FALSE(FileSystem::contentsOfFolder(home + "/f.bin").has_value());
+    EXPECT_TRUE(FileSystem::createFolders(home + "/x/y/z"));
+    EXPECT_TRUE(FileSystem::moveItem(home + "/x", home + "/moved"));
+    EXPECT_TRUE(fs::is_directory(home + "/moved/y/z"));
+}

@@ -1,0 +1,215 @@
+#include "Models/CleanupCatalog.h"
+#include "Platform/Trash.h"
+#include "Services/Cleaner.h"
+#include "Services/Scanner.h"
+#include "Support/DroppedCapabilities.h"
+#include "Support/TempHome.h"
+#include "Support/TreeBuilder.h"
+#include "Support/TreeSnapshot.h"
+
+#include <gmock/gmock.h>
+
+#include <filesystem>
+#include <sys/stat.h>
+
+namespace fs = std::filesystem;
+using ::testing::UnorderedElementsAre;
+
+namespace {
+
+class CleanerTest : public TempHomeTest {
+protected:
+    std::string H = tempHome.home();
+
+    static CleanupTarget folders(std::vector<std::string> paths)
+    {
+        return {"t", "T", "folder.fill", "", PathsKind{std::move(paths)}, CleanupCategory::custom, false};
+    }
+    static CleanupTarget command(std::string shell, std::vector<std::string> fallback)
+    {
+        return {"c", "C", "cube.box.fill", "", CommandKind{std::move(shell), std::move(fallback)},
+                CleanupCategory::developer, true};
+    }
+    static CleanupTarget builtIn(const std::string& id)
+    {
+        for (const auto& target : CleanupCatalog::builtIn()) {
+            if (target.id == id)
+                return target;
+        }
+        throw std::out_of_range(id);
+    }
+    std::vector<std::string> contents(const std::string& folder) const
+    {
+        std::vector<std::string> names;
+        for (const auto& entry : fs::directory_iterator(folder))
+            names.push_back(entry.path().filename().string());
+        return names;
+    }
+    // Everything outside the target folders and the Trash.
+    TreeSnapshot outside(const std::vector<std::string>& targets) const
+    {
+        auto skip = targets;
+        skip.push_back(Trash::homeTrashFolder());
+        return snapshotTree(tempHome.root(), skip);
+    }
+};
+
+}  // namespace
+
+TEST_F(CleanerTest, FoldersAreEmptiedIntoTheTrashAndKept)
+{
+    const std::string cache = H + "/Library/Caches";
+    TreeBuilder::writeFile(cache + "/app/blob.bin", 50'000);
+    TreeBuilder::writeFile(cache + "/.hidden", 10);
+    TreeBuilder::writeFile(cache + "/name with spaces\nand a newline", 10);
+    TreeBuilder::writeFile(cache + "/bad-\xff-utf8", 10);
+    TreeBuilder::writeFile(cache + "/CloudKit/x", 10);  // a child the safety test would refuse alone
+    TreeBuilder::writeFile(H + "/Documents/keep.txt", 10);
+    const auto before = outside({cache});
+    const auto size = Scanner::directorySize(cache);
+
+    const CleanOutcome outcome = Cleaner::clean(builtIn("appcaches"), true);
+
+    EXPECT_EQ(outcome.error, std::nullopt);
+    EXPECT_EQ(outcome.freed, size);
+    EXPECT_TRUE(fs::is_directory(cache));
+    EXPECT_TRUE(contents(cache).empty());
+    ASSERT_EQ(outcome.trashed.size(), 5u);
+    for (const auto& item : outcome.trashed) {
+        EXPECT_TRUE(item.original.starts_with(cache + "/"));
+        EXPECT_TRUE(item.trashPath.starts_with(Trash::homeTrashFolder() + "/files/"));
+        EXPECT_TRUE(fs::exists(fs::symlink_status(item.trashPath)));
+    }
+    EXPECT_EQ(outside({cache}), before);
+}
+
+TEST_F(CleanerTest, PermanentRemovalLeavesNothingInTheTrash)
+{
+    TreeBuilder::writeFile(H + "/junk/a/b/c.bin", 9000);
+    TreeBuilder::makeDeepChain(tempHome.makeFolder("junk/deep"), 600, "d", 10);
+    const CleanOutcome outcome = Cleaner::clean(folders({"~/junk"}), false);
+    EXPECT_TRUE(outcome.trashed.empty());
+    EXPECT_EQ(outcome.error, std::nullopt);
+    EXPECT_GT(outcome.freed, 0);
+    EXPECT_TRUE(contents(H + "/junk").empty());
+    EXPECT_FALSE(fs::exists(Trash::homeTrashFolder() + "/files"));
+
+    // An empty folder frees nothing and reports nothing.
+    const CleanOutcome empty = Cleaner::clean(folders({"~/junk"}), true);
+    EXPECT_EQ(empty.freed, 0);
+    EXPECT_EQ(empty.error, std::nullopt);
+    EXPECT_TRUE(empty.trashed.empty());
+}
+
+TEST_F(CleanerTest, LinksInsideATargetGoButWhatTheyPointAtStays)
+{
+    TreeBuilder::writeFile(H + "/Documents/thesis.tex", 100);
+    TreeBuilder::writeFile(tempHome.root() + "/elsewhere/system.conf", 100);
+    fs::create_directories(H + "/cache");
+    fs::create_directory_symlink(H + "/Documents", H + "/cache/docs");
+    fs::create_symlink(tempHome.root() + "/elsewhere/system.conf", H + "/cache/conf");
+    fs::create_directory_symlink(H + "/cache", H + "/cache/loop");
+    const auto before = outside({H + "/cache"});
+
+    for (bool toTrash : {false, true}) {
+        const CleanOutcome outcome = Cleaner::clean(folders({"~/cache"}), toTrash);
+        EXPECT_EQ(outcome.error, std::nullopt);
+        EXPECT_TRUE(contents(H + "/cache").empty());
+        EXPECT_EQ(outside({H + "/cache"}), before);
+        fs::create_directory_symlink(H + "/Documents", H + "/cache/docs");
+    }
+}
+
+TEST_F(CleanerTest, AFolderThatBecameALinkToAProtectedPlaceIsRefused)
+{
+    TreeBuilder::writeFile(H + "/Documents/thesis.tex", 100);
+    TreeBuilder::writeFile(H + "/other/old.bin", 100);
+    fs::create_directory_symlink(H + "/Documents", H + "/was-a-folder");
+    const auto documents = snapshotTree(H + "/Documents");
+
+    const CleanOutcome outcome = Cleaner::clean(folders({"~/was-a-folder", "~/other"}), true);
+
+    EXPECT_EQ(outcome.error, "Refused (protected): " + H + "/Documents");
+    EXPECT_EQ(snapshotTree(H + "/Documents"), documents);
+    EXPECT_TRUE(contents(H + "/other").empty());  // the target's other folders are still cleaned
+
+    // Missing folders are no error.
+    EXPECT_EQ(Cleaner::clean(folders({"~/never-existed"}), true).error, std::nullopt);
+}
+
+TEST_F(CleanerTest, UnremovableItemsOnlyShrinkWhatWasFreed)
+{
+    TreeBuilder::writeFile(H + "/c/loose.bin", 8000);
+    TreeBuilder::writeFile(H + "/c/locked/inner/secret.bin", 8000);
+    chmod((H + "/c/locked/inner").c_str(), 0500);
+    const auto sizeBefore = Scanner::directorySize(H + "/c");
+    CleanOutcome outcome;
+    {
+        DroppedCapabilities dropped;
+        MOPWELL_REQUIRE_ENFORCED_PERMISSIONS(dropped);
+        outcome = Cleaner::clean(folders({"~/c"}), false);
+    }
+    chmod((H + "/c/locked/inner").c_str(), 0755);
+    EXPECT_EQ(outcome.error, std::nullopt);
+    EXPECT_TRUE(fs::exists(H + "/c/locked/inner/secret.bin"));
+    EXPECT_FALSE(fs::exists(H + "/c/loose.bin"));
+    EXPECT_EQ(outcome.freed, sizeBefore - Scanner::directorySize(H + "/c"));
+    EXPECT_GT(outcome.freed, 0);
+}
+
+TEST_F(CleanerTest, AnUnusableTrashFallsBackToDeleting)
+{
+    TreeBuilder::writeFile(H + "/c/a.bin", 100);
+    TreeBuilder::writeFile(H + "/c/b.bin", 100);
+    fs::create_directories(Trash::homeTrashFolder());
+    chmod(Trash::homeTrashFolder().c_str(), 0500);
+    CleanOutcome outcome;
+    {
+        DroppedCapabilities dropped;
+        MOPWELL_REQUIRE_ENFORCED_PERMISSIONS(dropped);
+        outcome = Cleaner::clean(folders({"~/c"}), true);
+    }
+    chmod(Trash::homeTrashFolder().c_str(), 0700);
+    EXPECT_TRUE(outcome.trashed.empty());
+    EXPECT_EQ(outcome.error, std::nullopt);
+    EXPECT_TRUE(contents(H + "/c").empty());
+}
+
+TEST_F(CleanerTest, CommandsFallBackToTheirFoldersWhenTheyFail)
+{
+    auto seed = [&] { TreeBuilder::writeFile(H + "/fallback/blob", 5000); };
+
+    seed();
+    auto outcome = Cleaner::clean(command("exit 0", {"~/fallback"}), true);
+    EXPECT_EQ(outcome.error, std::nullopt);
+    EXPECT_TRUE(fs::exists(H + "/fallback/blob"));  // success: the command did the cleaning
+
+    outcome = Cleaner::clean(command("echo '  it broke  '; exit 3", {"~/fallback"}), false);
+    EXPECT_EQ(outcome.error, "it broke");
+    EXPECT_FALSE(fs::exists(H + "/fallback/blob"));
+    EXPECT_GT(outcome.freed, 0);
+
+    seed();
+    outcome = Cleaner::clean(command("no-such-tool-here --clean", {"~/fallback"}), false);
+    EXPECT_EQ(outcome.error, std::nullopt);  // not installed is no error
+    EXPECT_FALSE(fs::exists(H + "/fallback/blob"));
+
+    outcome = Cleaner::clean(command("exit 4", {}), true);
+    EXPECT_EQ(outcome.error, "Command exited with status 4");
+    EXPECT_EQ(outcome.freed, 0);
+}
+
+TEST_F(CleanerTest, BuildFoldersAreRemovedWholeAndRemeasured)
+{
+    TreeBuilder::writeFile(H + "/src/app/package.json", 10);
+    TreeBuilder::writeFile(H + "/src/app/node_modules/left-pad/index.js", 3000);
+    TreeBuilder::writeFile(H + "/src/app/index.js", 10);
+    const auto finder = CleanupCatalog::finderTargets({"~/src"}, {}, 0)[0];
+    const CleanOutcome outcome = Cleaner::clean(finder, true);
+    EXPECT_EQ(outcome.error, std::nullopt);
+    EXPECT_GT(outcome.freed, 0);
+    ASSERT_EQ(outcome.trashed.size(), 1u);
+    EXPECT_EQ(outcome.trashed[0].original, H + "/src/app/node_modules");
+    EXPECT_FALSE(fs::exists(H + "/src/app/node_modules"));
+    EXPECT_TRUE(fs::exists(H + "/src/app/index.js"));
+}

@@ -1,0 +1,103 @@
+#include "Models/CleanupCatalog.h"
+#include "Services/Scanner.h"
+#include "Support/DroppedCapabilities.h"
+#include "Support/TempHome.h"
+#include "Support/TreeBuilder.h"
+
+#include <filesystem>
+#include <sys/stat.h>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+std::int64_t allocated(const std::string& path)
+{
+    struct stat status {};
+    lstat(path.c_str(), &status);
+    return static_cast<std::int64_t>(status.st_blocks) * 512;
+}
+
+CleanupTarget pathsTarget(std::vector<std::string> paths)
+{
+    return {"t", "T", "folder.fill", "", PathsKind{std::move(paths)}, CleanupCategory::custom, false};
+}
+
+}  // namespace
+
+TEST_F(TempHomeTest, DirectorySizeCountsAllocatedBytesOfRegularFilesOnly)
+{
+    const std::string home = tempHome.home();
+    TreeBuilder::writeFile(home + "/c/one-byte", 1);
+    TreeBuilder::writeFile(home + "/c/.hidden", 10'000);
+    TreeBuilder::writeFile(home + "/c/sub/deeper/data", 70'000);
+    TreeBuilder::writeFile(home + "/elsewhere/huge", 500'000);
+    fs::create_symlink(home + "/elsewhere/huge", home + "/c/link-to-huge");
+    fs::create_directory_symlink(home + "/elsewhere", home + "/c/link-to-folder");
+    fs::create_hard_link(home + "/c/sub/deeper/data", home + "/c/hardlink");  // counted again, as each name frees nothing alone
+
+    const std::int64_t expected = allocated(home + "/c/one-byte") + allocated(home + "/c/.hidden") +
+                                  2 * allocated(home + "/c/sub/deeper/data");
+    EXPECT_GE(allocated(home + "/c/one-byte"), 512);
+    EXPECT_EQ(Scanner::directorySize(home + "/c"), expected);
+    EXPECT_EQ(Scanner::directorySize("~/c"), expected);
+    EXPECT_EQ(Scanner::directorySize("~/c/sub/deeper/data"), allocated(home + "/c/sub/deeper/data"));
+    EXPECT_EQ(Scanner::directorySize("~/missing"), 0);
+}
+
+TEST_F(TempHomeTest, ProgressComesOncePerFifteenHundredFiles)
+{
+    const std::string root = tempHome.makeFolder("many");
+    for (int i = 0; i < 3000; ++i)
+        TreeBuilder::writeFile(root + "/d" + std::to_string(i % 7) + "/f" + std::to_string(i), 0);
+    for (int i = 0; i < 10; ++i)
+        fs::create_symlink(root + "/d0", root + "/link" + std::to_string(i));
+    std::vector<std::int64_t> reports;
+    const auto total = Scanner::directorySize(root, [&](std::int64_t bytes) { reports.push_back(bytes); });
+    ASSERT_EQ(reports.size(), 2u);
+    EXPECT_EQ(reports[1], total);
+}
+
+TEST_F(TempHomeTest, TargetSizesFollowTheirKind)
+{
+    const std::string home = tempHome.home();
+    TreeBuilder::writeFile(home + "/a/x", 5000);
+    TreeBuilder::writeFile(home + "/b/y", 9000);
+    std::vector<std::int64_t> reports;
+    const auto size = Scanner::size(pathsTarget({"~/a", "~/missing", "~/b"}),
+                                    [&](std::int64_t bytes) { reports.push_back(bytes); });
+    const std::int64_t a = allocated(home + "/a/x");
+    const std::int64_t b = allocated(home + "/b/y");
+    EXPECT_EQ(size, a + b);
+    // One report after each location, carrying the running total of the whole target.
+    EXPECT_EQ(reports, (std::vector<std::int64_t>{a, a, a + b}));
+
+    // Missing folders measure 0, not "unknown".
+    EXPECT_EQ(Scanner::size(pathsTarget({"~/nope"})), 0);
+    EXPECT_EQ(Scanner::size(pathsTarget({})), std::nullopt);
+
+    // A command target is measured by its fallback folders and never run.
+    TreeBuilder::writeFile(home + "/.npm/_cacache/blob", 3000);
+    const auto& catalog = CleanupCatalog::builtIn();
+    const auto npm = std::find_if(catalog.begin(), catalog.end(), [](const auto& t) { return t.id == "npm"; });
+    EXPECT_EQ(Scanner::size(*npm), allocated(home + "/.npm/_cacache/blob"));
+    const auto docker = std::find_if(catalog.begin(), catalog.end(), [](const auto& t) { return t.id == "docker"; });
+    EXPECT_EQ(Scanner::size(*docker), std::nullopt);
+
+    // A build-folder rule that finds nothing has no size.
+    EXPECT_EQ(Scanner::size(CleanupCatalog::finderTargets({"~/no-projects"}, {}, 0)[0]), std::nullopt);
+}
+
+TEST_F(TempHomeTest, UnreadableFoldersCountAsEmpty)
+{
+    const std::string home = tempHome.home();
+    TreeBuilder::writeFile(home + "/c/visible", 4096);
+    TreeBuilder::writeFile(home + "/c/locked/hidden-from-us", 4096);
+    chmod((home + "/c/locked").c_str(), 0);
+    {
+        DroppedCapabilities dropped;
+        MOPWELL_REQUIRE_ENFORCED_PERMISSIONS(dropped);
+        EXPECT_EQ(Scanner::directorySize(home + "/c"), allocated(home + "/c/visible"));
+    }
+    chmod((home + "/c/locked").c_str(), 0755);
+}
