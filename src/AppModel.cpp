@@ -6,6 +6,8 @@
 #include "Platform/Paths.h"
 #include "QtConversions.h"
 #include "Services/AppSettings.h"
+#include "Services/CleanHistoryStore.h"
+#include "Services/Notifier.h"
 
 #include <algorithm>
 #include <cmath>
@@ -71,8 +73,13 @@ AppModel& AppModel::shared()
 AppModel::AppModel(std::shared_ptr<DefaultsStore> defaults, QObject* parent)
     : QObject(parent), disk_(DiskInfo::current(Paths::home()))
 {
-    settings_ = new AppSettings(std::move(defaults), this);
+    settings_ = new AppSettings(defaults, this);
+    defaults_ = std::move(defaults);
     rebuildTargets();
+    auto loaded = CleanHistoryStore::load(*defaults_);
+    history_ = std::move(loaded.history);
+    totalFreedAllTime_ = loaded.total;
+    Notifier::requestAuthorization();
     connect(settings_, &AppSettings::disabledTargetIDsChanged, this, &AppModel::changed);
     connect(settings_, &AppSettings::menuBarDisplayChanged, this, &AppModel::changed);
     connect(settings_, &AppSettings::lowSpaceThresholdGBChanged, this, &AppModel::changed);
@@ -128,11 +135,15 @@ void AppModel::refreshDisk()
 void AppModel::start()
 {
     if (didStart_) {
-        refreshDisk();
+        refreshDiskAndCheckSpace();
         return;
     }
     didStart_ = true;
-    refreshDisk();
+    refreshDiskAndCheckSpace();
+    restartTimer();
+    startCacheWatcher();
+    scanAll();  // runs on by itself and stamps lastScan when done
+    runScheduledCleanupIfDue();
 }
 
 std::int64_t AppModel::totalReclaimable() const

@@ -1,14 +1,19 @@
 #pragma once
 
+#include "Models/CleanRecord.h"
 #include "Models/CleanupCategory.h"
 #include "Models/DiskInfo.h"
+#include "Models/PendingClean.h"
 #include "Models/SimpleGroup.h"
 #include "Models/TargetState.h"
 #include "Platform/Clock.h"
+#include "Services/CleanOutcome.h"
 
 #include <QDateTime>
+#include <qcoro/qcorotask.h>
 #include <QObject>
 #include <QString>
+#include <QTimer>
 
 #include <cstdint>
 #include <memory>
@@ -70,6 +75,47 @@ public:
     // that stay. Doesn't scan.
     void rebuildTargets();
 
+    // Measures every live target at once; when all are done, stamps lastScan.
+    QCoro::Task<> scanAll();
+    // Measures one target, publishing its running total as it grows. An unknown id does nothing.
+    QCoro::Task<> scan(std::string id);
+
+    // Adds a folder ("~" allowed) as a custom target and starts measuring it. Returns the message
+    // for the user when the folder can't be added.
+    std::optional<QString> addCustomFolder(const QString& path);
+    // A running scan's total so far; ignored once that target is no longer scanning.
+    void reportScanProgress(const std::string& id, std::int64_t bytes);
+    void removeCustomFolder(const QString& path);
+
+    // Prepares the confirmation of one target's clean, or of every enabled target. Nothing is
+    // removed until confirmPending.
+    void requestClean(const std::string& id);
+    void requestCleanAll();
+    const std::optional<PendingClean>& pendingClean() const { return pendingClean_; }
+    // Cancelling the confirmation sets it to none.
+    void setPendingClean(std::optional<PendingClean> pending);
+    // The user agreed: the pending clean starts, to the Trash unless `permanently` or the setting
+    // says otherwise, and runs on after this returns.
+    void confirmPending(bool permanently);
+    // Cleans one target, or every enabled one in list order. Without a choice, the Trash setting
+    // is read when each target is cleaned.
+    QCoro::Task<> clean(std::string id, std::optional<bool> moveToTrash = std::nullopt);
+    QCoro::Task<> cleanAll(std::optional<bool> moveToTrash = std::nullopt);
+
+    // History, newest first, and the lifetime total freed.
+    const std::vector<CleanRecord>& history() const { return history_; }
+    // For windows that delete by themselves: keeps history, total and disk figures in step.
+    void recordExternalDeletion(const std::string& name, std::int64_t freed, const std::vector<TrashedItem>& trashed);
+    // Puts a record's trashed items back where they were.
+    void restore(const CleanRecord& record);
+    // Empties the history list; the lifetime total stays.
+    void clearHistory();
+
+    // Restarts the refresh timer with the current interval (at least 2 seconds).
+    void restartTimer();
+    // Starts an automatic clean when the schedule says one is due.
+    void runScheduledCleanupIfDue();
+
     // Safe to call repeatedly: the first call sets the application going, later ones only
     // refresh the disk figures.
     Q_INVOKABLE void start();
@@ -91,6 +137,8 @@ signals:
     void targetsChanged();
     void isCleaningAllChanged();
     void statusMessageChanged();
+    void pendingCleanChanged();
+    void historyChanged();
     void largeFilesTabChanged();
     void totalFreedAllTimeChanged();
     void lastScanChanged();
@@ -100,6 +148,27 @@ private:
 
     void refreshDisk();
     void publishTargets(std::vector<TargetState> targets);
+    // The live state with this id, looked up afresh: the list may change across any wait.
+    TargetState* findState(const std::string& id);
+    void targetStateChanged();
+    void setLastScan(Clock::TimePoint time);
+    void setStatusMessage(std::optional<QString> message);
+    void setIsCleaningAll(bool cleaning);
+    // Stores a measured size for a target that may have left the list meanwhile.
+    void storeSize(const std::string& id, std::optional<std::int64_t> size);
+    // Remembers a clean that freed something, for the history and the lifetime total.
+    void record(const CleanupTarget& target, const CleanOutcome& outcome);
+    // After anything that changes free space: new disk figures, then the low-space check.
+    void refreshDiskAndCheckSpace();
+    void addRecord(CleanRecord record);
+    void saveHistory();
+    void setTotalFreedAllTime(std::int64_t total);
+    // One alert per dip of the free space below the threshold.
+    void checkLowSpace();
+    void startCacheWatcher();
+    void refreshTick();
+    QCoro::Task<> refreshCacheSizes();
+    QCoro::Task<> autoClean();
 
     // Published state.
     DiskInfo disk_;
@@ -107,10 +176,15 @@ private:
     bool isCleaningAll_ = false;
     std::optional<QString> statusMessage_;
     int largeFilesTab_ = 0;
+    std::optional<PendingClean> pendingClean_;
+    std::vector<CleanRecord> history_;
     std::int64_t totalFreedAllTime_ = 0;
     std::optional<Clock::TimePoint> lastScan_;
 
     AppSettings* settings_ = nullptr;
+    std::shared_ptr<DefaultsStore> defaults_;
+    QTimer* timer_ = nullptr;
+    QTimer* cacheWatchTimer_ = nullptr;
     bool lowSpaceNotified_ = false;
     bool didStart_ = false;
 };

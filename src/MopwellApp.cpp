@@ -1,6 +1,8 @@
 #include "MopwellApp.h"
 
 #include "AppModel.h"
+#include "Platform/NotificationCenter.h"
+#include "Services/Notifier.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -10,6 +12,14 @@ MopwellApp::MopwellApp(QObject* parent) : QObject(parent), model_(AppModel::shar
 
 void MopwellApp::launch()
 {
+    // A tap on the low-space alert, or its "Clean Up Now", prepares the clean of everything
+    // enabled and brings the application forward; it never cleans by itself.
+    connect(&Notifier::center(), &NotificationCenter::responded, this, [this](const QString& category) {
+        if (category != QLatin1String(Notifier::lowSpaceCategoryIdentifier))
+            return;
+        model_.requestCleanAll();
+        showPanel();
+    });
     engine_.setInitialProperties({{QStringLiteral("appModel"), QVariant::fromValue(&model_)}});
     engine_.load(QUrl(QStringLiteral("qrc:/Views/PlaceholderPanelView.qml")));
     if (!QSystemTrayIcon::isSystemTrayAvailable()) {

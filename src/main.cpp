@@ -1,4 +1,5 @@
 #include "MopwellApp.h"
+#include "Platform/Bundle.h"
 
 #include <QApplication>
 
@@ -9,6 +10,9 @@ int main(int argc, char* argv[])
     QApplication::setOrganizationDomain(QStringLiteral("mopwell.org"));
     // A status-area utility: closing a window never ends it, only "Quit" does.
     QApplication::setQuitOnLastWindowClosed(false);
+    // The running application has an identity; tests and command-line tools don't, and so post
+    // no notifications.
+    Bundle::setMainIdentifier(Bundle::applicationIdentifier);
     MopwellApp app;
     app.launch();
     return QApplication::exec();

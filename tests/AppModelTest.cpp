@@ -1,6 +1,7 @@
 #include "AppModel.h"
 #include "Platform/DefaultsStore.h"
 #include "Services/AppSettings.h"
+#include "Support/AppModelTestAccess.h"
 #include "Support/TempHome.h"
 
 #include <QSignalSpy>
@@ -8,25 +9,6 @@
 
 using ::testing::ElementsAre;
 using ::testing::ElementsAreArray;
-
-// Reaches the model's state so derived values can be checked against chosen sizes and disk figures.
-struct AppModelTestAccess {
-    static void setSize(AppModel& model, const std::string& id, std::optional<std::int64_t> size)
-    {
-        for (auto& state : model.targets_) {
-            if (state.id() == id)
-                state.size = size;
-        }
-    }
-    static void setScanning(AppModel& model, const std::string& id)
-    {
-        for (auto& state : model.targets_) {
-            if (state.id() == id)
-                state.isScanning = true;
-        }
-    }
-    static void setDisk(AppModel& model, DiskInfo disk) { model.disk_ = disk; }
-};
 
 namespace {
 

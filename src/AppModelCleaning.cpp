@@ -1,0 +1,144 @@
+// Cleans the user asks for: the request, the confirmation, the clean and what it reports.
+
+#include "AppModel.h"
+
+#include "EngineJobs.h"
+#include "Platform/ByteCountFormatter.h"
+#include "QtConversions.h"
+
+#include <qcoro/qcorofuture.h>
+
+#include <algorithm>
+
+using namespace QtConversions;
+
+namespace {
+
+QString formatted(std::int64_t bytes)
+{
+    return toQt(ByteCountFormatter::string(bytes));
+}
+
+}  // namespace
+
+void AppModel::setPendingClean(std::optional<PendingClean> pending)
+{
+    pendingClean_ = std::move(pending);
+    emit pendingCleanChanged();
+    emit changed();
+}
+
+void AppModel::setStatusMessage(std::optional<QString> message)
+{
+    statusMessage_ = std::move(message);
+    emit statusMessageChanged();
+    emit changed();
+}
+
+void AppModel::setIsCleaningAll(bool cleaning)
+{
+    isCleaningAll_ = cleaning;
+    emit isCleaningAllChanged();
+    emit changed();
+}
+
+void AppModel::storeSize(const std::string& id, std::optional<std::int64_t> size)
+{
+    if (TargetState* state = findState(id)) {
+        state->size = size;
+        targetStateChanged();
+    }
+}
+
+void AppModel::requestClean(const std::string& id)
+{
+    const TargetState* state = findState(id);
+    if (!state)
+        return;
+    PendingClean pending{PendingClean::Single{id}, state->target.name, std::nullopt, {}, state->target.whySafe()};
+    if (state->size)
+        pending.sizeText = ByteCountFormatter::string(*state->size);
+    for (const auto& line : state->target.displayPaths())
+        pending.items.push_back({line, std::nullopt});
+    setPendingClean(std::move(pending));
+}
+
+void AppModel::requestCleanAll()
+{
+    std::vector<const TargetState*> enabled;
+    for (const auto& state : targets_) {
+        if (settings_->isEnabled(toQt(state.id())))
+            enabled.push_back(&state);
+    }
+    std::stable_sort(enabled.begin(), enabled.end(), [](const TargetState* a, const TargetState* b) {
+        return a->size.value_or(0) > b->size.value_or(0);
+    });
+    PendingClean pending{PendingClean::All{}, toStd(tr("all enabled items")),
+                         ByteCountFormatter::string(totalReclaimable()), {},
+                         toStd(tr("Everything here is a cache, log or rebuildable file that comes back "
+                                  "automatically when it's needed."))};
+    for (const TargetState* state : enabled)
+        pending.items.push_back({state->target.name, state->size});
+    setPendingClean(std::move(pending));
+}
+
+void AppModel::confirmPending(bool permanently)
+{
+    if (!pendingClean_)
+        return;
+    const PendingClean confirmed = *pendingClean_;
+    setPendingClean(std::nullopt);
+    const bool useTrash = settings_->moveToTrash() && !permanently;
+    // Runs on by itself; every step finds its target again by id.
+    if (const auto* single = std::get_if<PendingClean::Single>(&confirmed.kind))
+        clean(single->id, useTrash);
+    else
+        cleanAll(useTrash);
+}
+
+QCoro::Task<> AppModel::clean(std::string id, std::optional<bool> moveToTrash)
+{
+    TargetState* state = findState(id);
+    if (!state)
+        co_return;
+    state->isCleaning = true;
+    targetStateChanged();
+    const CleanupTarget target = state->target;
+
+    const CleanOutcome outcome = co_await EngineJobs::clean(target, moveToTrash.value_or(settings_->moveToTrash()));
+    const std::optional<std::int64_t> newSize = co_await EngineJobs::measure(target);
+
+    if ((state = findState(id))) {
+        state->size = newSize;
+        state->isCleaning = false;
+        targetStateChanged();
+    }
+    refreshDiskAndCheckSpace();
+    record(target, outcome);
+    const QString name = toQt(target.name);
+    if (outcome.error)
+        setStatusMessage(name + ": " + toQt(*outcome.error));
+    else
+        setStatusMessage(tr("Freed %1 from %2").arg(formatted(outcome.freed), name));
+}
+
+QCoro::Task<> AppModel::cleanAll(std::optional<bool> moveToTrash)
+{
+    setIsCleaningAll(true);
+    const std::vector<TargetState> snapshot = targets_;
+    std::int64_t total = 0;
+    for (const TargetState& state : snapshot) {
+        // Read at each step: the user may switch targets off while the clean runs.
+        if (!settings_->isEnabled(toQt(state.id())))
+            continue;
+        const CleanOutcome outcome =
+            co_await EngineJobs::clean(state.target, moveToTrash.value_or(settings_->moveToTrash()));
+        total += outcome.freed;
+        record(state.target, outcome);
+        const std::optional<std::int64_t> newSize = co_await EngineJobs::measure(state.target);
+        storeSize(state.id(), newSize);
+        refreshDiskAndCheckSpace();
+    }
+    setIsCleaningAll(false);
+    setStatusMessage(tr("Freed %1 total").arg(formatted(total)));
+}

@@ -1,0 +1,226 @@
+#include "Models/CleanupCatalog.h"
+#include "Platform/ByteCountFormatter.h"
+#include "Platform/Trash.h"
+#include "Services/CleanHistoryStore.h"
+#include "Services/Scanner.h"
+#include "Support/AppModelTestAccess.h"
+#include "Support/ModelFixture.h"
+#include "Support/TreeBuilder.h"
+
+#include <gmock/gmock.h>
+#include <qcoro/qcorotask.h>
+
+#include <filesystem>
+#include <fstream>
+
+namespace fs = std::filesystem;
+using ::testing::ElementsAre;
+
+namespace {
+
+std::string readAll(const std::string& path)
+{
+    std::ifstream in(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), {}};
+}
+
+class AppModelCleaningTest : public ModelFixture {
+protected:
+    std::string H = tempHome.home();
+    std::string logs = H + "/Library/Logs";
+
+    void seedLogs()
+    {
+        TreeBuilder::writeFile(logs + "/app/today.log", 12'000);
+        TreeBuilder::writeFile(logs + "/crash report.txt", 3'000);
+        TreeBuilder::writeFile(logs + "/.state", 100);
+    }
+    std::vector<std::string> trashInfoFiles() const
+    {
+        std::vector<std::string> names;
+        const std::string info = Trash::homeTrashFolder() + "/info";
+        if (fs::exists(info)) {
+            for (const auto& entry : fs::directory_iterator(info))
+                names.push_back(entry.path().filename().string());
+        }
+        return names;
+    }
+};
+
+}  // namespace
+
+TEST_F(AppModelCleaningTest, ACleanGoesToTheTrashIsRecordedAndCanBePutBack)
+{
+    seedLogs();
+    const std::string original = readAll(logs + "/app/today.log");
+    QCoro::waitFor(model->scan("logs"));
+    const auto sizeBefore = *state("logs")->size;
+
+    model->requestClean("logs");
+    ASSERT_TRUE(model->pendingClean().has_value());
+    EXPECT_EQ(model->pendingClean()->title, "App & system logs");
+    EXPECT_EQ(model->pendingClean()->kind, PendingClean::Kind(PendingClean::Single{"logs"}));
+    EXPECT_EQ(model->pendingClean()->items, (std::vector<ConfirmItem>{{logs, std::nullopt}}));
+    EXPECT_TRUE(model->pendingClean()->sizeText.has_value());
+
+    model->confirmPending(false);
+    EXPECT_FALSE(model->pendingClean().has_value());
+    ASSERT_TRUE(waitUntil([&] { return !model->statusMessage().isEmpty(); }));
+
+    EXPECT_EQ(model->statusMessage(), "Freed " + QString::fromStdString(ByteCountFormatter::string(sizeBefore)) +
+                                          " from App & system logs");
+    EXPECT_TRUE(fs::is_directory(logs));
+    EXPECT_TRUE(fs::is_empty(logs));
+    EXPECT_EQ(state("logs")->size, 0);  // measured again after the clean
+    EXPECT_FALSE(state("logs")->isCleaning);
+    EXPECT_EQ(trashInfoFiles().size(), 3u);
+    ASSERT_EQ(model->history().size(), 1u);
+    const CleanRecord record = model->history().front();
+    EXPECT_EQ(record.targetName, "App & system logs");
+    EXPECT_EQ(record.freed, sizeBefore);
+    EXPECT_TRUE(record.trashed);
+    ASSERT_TRUE(record.items.has_value());
+    EXPECT_EQ(record.items->size(), 3u);
+    EXPECT_EQ(model->totalFreedAllTime(), sizeBefore);
+
+    // Both keys were written: a fresh start reads the same history and total.
+    const auto reread = CleanHistoryStore::load(DefaultsStore(defaultsPath()));
+    EXPECT_EQ(reread.history, model->history());
+    EXPECT_EQ(reread.total, sizeBefore);
+
+    model->restore(record);
+    EXPECT_EQ(readAll(logs + "/app/today.log"), original);
+    EXPECT_TRUE(fs::exists(logs + "/crash report.txt"));
+    EXPECT_TRUE(trashInfoFiles().empty());
+    EXPECT_EQ(model->history().front().restored, true);
+    EXPECT_EQ(model->totalFreedAllTime(), 0);
+    EXPECT_EQ(model->statusMessage(), "Restored App & system logs");
+    EXPECT_EQ(CleanHistoryStore::load(DefaultsStore(defaultsPath())).history.front().restored, true);
+
+    // A second restore of the same record changes nothing.
+    model->restore(model->history().front());
+    EXPECT_EQ(model->totalFreedAllTime(), 0);
+    ASSERT_TRUE(waitUntil([&] { return !model->isScanning(); }));  // the rescan restore started
+}
+
+TEST_F(AppModelCleaningTest, APermanentCleanSkipsTheTrashButKeepsTheRowFlag)
+{
+    seedLogs();
+    QCoro::waitFor(model->scan("logs"));
+    model->requestClean("logs");
+    model->confirmPending(true);
+    ASSERT_TRUE(waitUntil([&] { return !model->history().empty(); }));
+    EXPECT_TRUE(trashInfoFiles().empty());
+    EXPECT_TRUE(fs::is_empty(logs));
+    EXPECT_TRUE(model->history().front().trashed);  // follows the setting, which is on
+    EXPECT_FALSE(model->history().front().items.has_value());
+
+    // With the setting off every clean is permanent.
+    seedLogs();
+    settings.setMoveToTrash(false);
+    model->requestClean("logs");
+    model->confirmPending(false);
+    ASSERT_TRUE(waitUntil([&] { return model->history().size() == 2; }));
+    EXPECT_TRUE(trashInfoFiles().empty());
+    EXPECT_FALSE(model->history().front().trashed);
+
+    // Nothing pending: nothing happens.
+    model->confirmPending(false);
+    EXPECT_EQ(model->history().size(), 2u);
+}
+
+TEST_F(AppModelCleaningTest, CleanAllRequestListsEnabledTargetsBySize)
+{
+    TreeBuilder::writeFile(H + "/Library/Caches/big.bin", 90'000);
+    seedLogs();
+    QCoro::waitFor(model->scanAll());
+    settings.setEnabled(false, "chrome");
+    AppModelTestAccess::setSize(*model, "safari", std::nullopt);
+
+    model->requestCleanAll();
+    const PendingClean& pending = *model->pendingClean();
+    EXPECT_EQ(pending.kind, PendingClean::Kind(PendingClean::All{}));
+    EXPECT_EQ(pending.title, "all enabled items");
+    EXPECT_EQ(pending.sizeText, ByteCountFormatter::string(model->totalReclaimable()));
+    EXPECT_EQ(pending.whySafe,
+              "Everything here is a cache, log or rebuildable file that comes back automatically when it's needed.");
+    std::vector<std::string> labels;
+    for (const auto& item : pending.items)
+        labels.push_back(item.label);
+    // Largest first; equal sizes keep list order; unknown sizes count as 0; chrome is disabled.
+    EXPECT_THAT(labels, ElementsAre("App cache files", "App & system logs", "Trash", "Mail attachment previews",
+                                    "Safari cache", "Firefox cache"));
+    EXPECT_EQ(pending.items[4].size, std::nullopt);
+}
+
+TEST_F(AppModelCleaningTest, CleanAllCleansEnabledTargetsInListOrder)
+{
+    seedLogs();
+    TreeBuilder::writeFile(H + "/Library/Caches/big.bin", 40'000);
+    const std::string chromeCache = H + "/Library/Application Support/Google/Chrome/Default/Cache/data";
+    TreeBuilder::writeFile(chromeCache, 4'000);
+    settings.setEnabled(false, "chrome");
+    QCoro::waitFor(model->scanAll());
+    const auto expected = model->totalReclaimable();
+    EXPECT_EQ(expected, *state("appcaches")->size + *state("logs")->size);
+
+    model->requestCleanAll();
+    model->confirmPending(false);
+    EXPECT_TRUE(model->isCleaningAll());
+    ASSERT_TRUE(waitUntil([&] { return !model->isCleaningAll(); }));
+    EXPECT_EQ(model->statusMessage(), "Freed " + QString::fromStdString(ByteCountFormatter::string(expected)) + " total");
+    EXPECT_TRUE(fs::exists(chromeCache));  // the disabled one stays
+    EXPECT_FALSE(fs::exists(logs + "/app"));
+    std::vector<std::string> names;
+    for (const auto& record : model->history())
+        names.push_back(record.targetName);
+    // Newest first; targets that freed nothing (the empty Trash) leave no record.
+    EXPECT_THAT(names, ElementsAre("App & system logs", "App cache files"));
+}
+
+TEST_F(AppModelCleaningTest, EdgeCasesOfRequests)
+{
+    // Everything disabled: the message still comes, with a total of zero.
+    for (const auto& target : model->targets())
+        settings.setEnabled(false, QString::fromStdString(target.id()));
+    QCoro::waitFor(model->cleanAll());
+    EXPECT_EQ(model->statusMessage(), "Freed Zero KB total");
+    EXPECT_TRUE(model->history().empty());
+
+    // A build-folder target lists its roots, not what it finds.
+    settings.setDeveloperMode(true);
+    settings.setProjectRoots({"/code/a", "/code/b"});
+    model->rebuildTargets();
+    model->requestClean("node_modules");
+    EXPECT_EQ(model->pendingClean()->items,
+              (std::vector<ConfirmItem>{{"/code/a → node_modules", std::nullopt}, {"/code/b → node_modules", std::nullopt}}));
+    EXPECT_EQ(model->pendingClean()->sizeText, std::nullopt);
+    model->requestClean("no-such-target");
+    EXPECT_EQ(model->pendingClean()->title, "node_modules folders");  // unchanged
+    model->setPendingClean(std::nullopt);
+    EXPECT_FALSE(model->pendingClean().has_value());
+}
+
+TEST_F(AppModelCleaningTest, ExternalDeletionsJoinTheHistory)
+{
+    model->recordExternalDeletion("Disk Map", 0, {});
+    EXPECT_TRUE(model->history().empty());
+    model->recordExternalDeletion("Disk Map", 5000, {{"/a", "/t/a"}});
+    model->recordExternalDeletion("Large Files", 7000, {});
+    ASSERT_EQ(model->history().size(), 2u);
+    EXPECT_EQ(model->history()[0].targetName, "Large Files");
+    EXPECT_FALSE(model->history()[0].items.has_value());
+    EXPECT_TRUE(model->history()[1].trashed);
+    EXPECT_EQ(model->totalFreedAllTime(), 12'000);
+
+    // A restore whose items are gone from the Trash changes nothing.
+    model->restore(model->history()[1]);
+    EXPECT_EQ(model->totalFreedAllTime(), 12'000);
+    EXPECT_FALSE(model->history()[1].restored.has_value());
+
+    model->clearHistory();
+    EXPECT_TRUE(model->history().empty());
+    const auto reread = CleanHistoryStore::load(DefaultsStore(defaultsPath()));
+    EXPECT_TRUE(reread.history.empty());
+    EXPECT_EQ(reread.total, 12'000);  // clearing the list keeps the lifetime total
+}
