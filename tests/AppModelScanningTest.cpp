@@ -2,7 +2,7 @@
 #include "Platform/DefaultsStore.h"
 #include "Services/AppSettings.h"
 #include "Services/Scanner.h"
-#include "Support/TempHome.h"
+#include "Support/ModelFixture.h"
 #include "Support/TreeBuilder.h"
 
 #include <QSignalSpy>
@@ -16,28 +16,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-std::int64_t allocated(const std::string& path)
-{
-    struct stat status {};
-    lstat(path.c_str(), &status);
-    return static_cast<std::int64_t>(status.st_blocks) * 512;
-}
-
-class AppModelScanningTest : public TempHomeTest {
-protected:
-    std::shared_ptr<DefaultsStore> store =
-        std::make_shared<DefaultsStore>(tempHome.configHome() + "/mopwell/defaults.plist");
-    AppModel model{store};
-
-    const TargetState* state(const std::string& id) const
-    {
-        for (const auto& candidate : model.targets()) {
-            if (candidate.id() == id)
-                return &candidate;
-        }
-        return nullptr;
-    }
-};
+class AppModelScanningTest : public ModelFixture {};
 
 }  // namespace
 
@@ -46,33 +25,33 @@ TEST_F(AppModelScanningTest, ScanAllMeasuresEveryTargetAndStampsTheTime)
     const std::string home = tempHome.home();
     TreeBuilder::writeFile(home + "/Library/Caches/app/blob", 20'000);
     TreeBuilder::writeFile(home + "/Library/Logs/old.log", 3'000);
-    QSignalSpy lastScan(&model, &AppModel::lastScanChanged);
+    QSignalSpy lastScan(model.get(), &AppModel::lastScanChanged);
     const auto before = Clock::now();
 
-    QCoro::waitFor(model.scanAll());
+    QCoro::waitFor(model->scanAll());
 
-    EXPECT_EQ(state("appcaches")->size, allocated(home + "/Library/Caches/app/blob"));
-    EXPECT_EQ(state("logs")->size, allocated(home + "/Library/Logs/old.log"));
+    EXPECT_EQ(state("appcaches")->size, TreeBuilder::allocatedSize(home + "/Library/Caches/app/blob"));
+    EXPECT_EQ(state("logs")->size, TreeBuilder::allocatedSize(home + "/Library/Logs/old.log"));
     EXPECT_EQ(state("firefox")->size, 0);  // missing folders measure 0
-    EXPECT_FALSE(model.isScanning());
-    ASSERT_TRUE(model.lastScan().has_value());
-    EXPECT_GE(*model.lastScan(), before);
+    EXPECT_FALSE(model->isScanning());
+    ASSERT_TRUE(model->lastScan().has_value());
+    EXPECT_GE(*model->lastScan(), before);
     EXPECT_EQ(lastScan.count(), 1);
-    EXPECT_EQ(model.totalReclaimable(), *state("appcaches")->size + *state("logs")->size);
+    EXPECT_EQ(model->totalReclaimable(), *state("appcaches")->size + *state("logs")->size);
 }
 
 TEST_F(AppModelScanningTest, ScanShowsItselfWhileRunningAndIgnoresUnknownIds)
 {
     TreeBuilder::writeFile(tempHome.home() + "/Library/Logs/a.log", 100);
-    const auto targetsBefore = model.targets();
-    QCoro::waitFor(model.scan("no-such-target"));
-    EXPECT_EQ(model.targets(), targetsBefore);
+    const auto targetsBefore = model->targets();
+    QCoro::waitFor(model->scan("no-such-target"));
+    EXPECT_EQ(model->targets(), targetsBefore);
 
-    auto running = model.scan("logs");
+    auto running = model->scan("logs");
     // The scan has handed its work to a background thread and is waiting.
     EXPECT_TRUE(state("logs")->isScanning);
     EXPECT_EQ(state("logs")->size, std::nullopt);
-    EXPECT_TRUE(model.isScanning());
+    EXPECT_TRUE(model->isScanning());
     QCoro::waitFor(std::move(running));
     EXPECT_FALSE(state("logs")->isScanning);
     EXPECT_GT(*state("logs")->size, 0);
@@ -83,8 +62,8 @@ TEST_F(AppModelScanningTest, ARebuildDuringAScanKeepsTheFinalResultById)
     const std::string home = tempHome.home();
     for (int i = 0; i < 3100; ++i)
         TreeBuilder::writeFile(home + "/Library/Logs/d" + std::to_string(i % 5) + "/f" + std::to_string(i), 1);
-    auto running = model.scan("logs");
-    model.rebuildTargets();
+    auto running = model->scan("logs");
+    model->rebuildTargets();
     EXPECT_FALSE(state("logs")->isScanning);  // the new state starts idle
     QCoro::waitFor(std::move(running));
     QCoreApplication::processEvents();  // late progress reports must not undo anything
@@ -97,20 +76,20 @@ TEST_F(AppModelScanningTest, CustomFoldersAreValidatedAddedMeasuredAndRemoved)
     fs::create_directories(home + "/Documents");
     TreeBuilder::writeFile(home + "/Movies/Old/clip.mov", 8'000);
 
-    EXPECT_EQ(model.addCustomFolder("~/nothing-here"), QString("Folder doesn't exist."));
-    EXPECT_EQ(model.addCustomFolder("~/Documents"), QString("That location is protected and can't be cleaned."));
-    EXPECT_EQ(model.addCustomFolder("~/Movies/Old"), std::nullopt);
-    EXPECT_EQ(model.addCustomFolder(QString::fromStdString(home + "/Movies/Old")), QString("Already added."));
+    EXPECT_EQ(model->addCustomFolder("~/nothing-here"), QString("Folder doesn't exist."));
+    EXPECT_EQ(model->addCustomFolder("~/Documents"), QString("That location is protected and can't be cleaned."));
+    EXPECT_EQ(model->addCustomFolder("~/Movies/Old"), std::nullopt);
+    EXPECT_EQ(model->addCustomFolder(QString::fromStdString(home + "/Movies/Old")), QString("Already added."));
 
     const std::string id = "custom:" + home + "/Movies/Old";
     ASSERT_NE(state(id), nullptr);
-    EXPECT_EQ(model.targets().back().id(), id);
+    EXPECT_EQ(model->targets().back().id(), id);
     EXPECT_TRUE(state(id)->isScanning);
     QTRY_VERIFY_WITH_TIMEOUT(!state(id)->isScanning, 5000);  // the scan it started lands by id
-    EXPECT_EQ(state(id)->size, allocated(home + "/Movies/Old/clip.mov"));
-    EXPECT_EQ(AppSettings(store).customFolders(), QStringList{QString::fromStdString(home + "/Movies/Old")});
+    EXPECT_EQ(state(id)->size, TreeBuilder::allocatedSize(home + "/Movies/Old/clip.mov"));
+    EXPECT_EQ(AppSettings(std::make_shared<DefaultsStore>(defaultsPath())).customFolders(), QStringList{QString::fromStdString(home + "/Movies/Old")});
 
-    model.removeCustomFolder(QString::fromStdString(home + "/Movies/Old"));
+    model->removeCustomFolder(QString::fromStdString(home + "/Movies/Old"));
     EXPECT_EQ(state(id), nullptr);
-    EXPECT_TRUE(model.settings()->customFolders().isEmpty());
+    EXPECT_TRUE(model->settings()->customFolders().isEmpty());
 }

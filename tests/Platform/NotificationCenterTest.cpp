@@ -1,6 +1,5 @@
 #include "Platform/NotificationCenter.h"
-#include "Support/FakeNotificationServer.h"
-#include "Support/PrivateSessionBus.h"
+#include "Support/NotificationServiceTest.h"
 
 #include <QElapsedTimer>
 #include <QSignalSpy>
@@ -17,14 +16,11 @@ NotificationRequest request(const QString& identifier, const QString& body, cons
     return NotificationRequest{identifier, QStringLiteral("Title"), body, NotificationRequest::Sound::none, category};
 }
 
-class NotificationCenterTest : public ::testing::Test {
+class NotificationCenterTest : public NotificationServiceTest {
 protected:
     void SetUp() override
     {
-        ASSERT_TRUE(bus.isRunning()) << "dbus-daemon could not be started";
-        server = std::make_unique<FakeNotificationServer>(bus.connect());
-        ASSERT_TRUE(server->registered());
-        center = std::make_unique<NotificationCenter>(bus.connect());
+        NotificationServiceTest::SetUp();
         center->setCategories({{QStringLiteral("ALERT"), {{QStringLiteral("FIX"), QStringLiteral("Fix It")}}}});
     }
 
@@ -36,10 +32,6 @@ protected:
         EXPECT_TRUE(server->waitForNotifications(before + 1));
         return server->received().isEmpty() ? 0 : server->received().last().id;
     }
-
-    PrivateSessionBus bus;
-    std::unique_ptr<FakeNotificationServer> server;
-    std::unique_ptr<NotificationCenter> center;
 };
 
 }  // namespace

@@ -1,8 +1,7 @@
 #include "Platform/Bundle.h"
 #include "Platform/NotificationCenter.h"
 #include "Services/Notifier.h"
-#include "Support/FakeNotificationServer.h"
-#include "Support/PrivateSessionBus.h"
+#include "Support/NotificationServiceTest.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -13,14 +12,11 @@
 
 namespace {
 
-class NotifierTest : public ::testing::Test {
+class NotifierTest : public NotificationServiceTest {
 protected:
     void SetUp() override
     {
-        ASSERT_TRUE(bus.isRunning()) << "dbus-daemon could not be started";
-        server = std::make_unique<FakeNotificationServer>(bus.connect());
-        ASSERT_TRUE(server->registered());
-        center = std::make_unique<NotificationCenter>(bus.connect());
+        NotificationServiceTest::SetUp();
         Notifier::setCenter(center.get());
         Bundle::setMainIdentifier(Bundle::applicationIdentifier);
     }
@@ -36,10 +32,6 @@ protected:
         EXPECT_TRUE(server->waitForNotifications(count));
         return server->received().last();
     }
-
-    PrivateSessionBus bus;
-    std::unique_ptr<FakeNotificationServer> server;
-    std::unique_ptr<NotificationCenter> center;
 };
 
 }  // namespace

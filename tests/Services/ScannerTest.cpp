@@ -11,13 +11,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-std::int64_t allocated(const std::string& path)
-{
-    struct stat status {};
-    lstat(path.c_str(), &status);
-    return static_cast<std::int64_t>(status.st_blocks) * 512;
-}
-
 CleanupTarget pathsTarget(std::vector<std::string> paths)
 {
     return {"t", "T", "folder.fill", "", PathsKind{std::move(paths)}, CleanupCategory::custom, false};
@@ -36,12 +29,12 @@ TEST_F(TempHomeTest, DirectorySizeCountsAllocatedBytesOfRegularFilesOnly)
     fs::create_directory_symlink(home + "/elsewhere", home + "/c/link-to-folder");
     fs::create_hard_link(home + "/c/sub/deeper/data", home + "/c/hardlink");  // counted again, as each name frees nothing alone
 
-    const std::int64_t expected = allocated(home + "/c/one-byte") + allocated(home + "/c/.hidden") +
-                                  2 * allocated(home + "/c/sub/deeper/data");
-    EXPECT_GE(allocated(home + "/c/one-byte"), 512);
+    const std::int64_t expected = TreeBuilder::allocatedSize(home + "/c/one-byte") + TreeBuilder::allocatedSize(home + "/c/.hidden") +
+                                  2 * TreeBuilder::allocatedSize(home + "/c/sub/deeper/data");
+    EXPECT_GE(TreeBuilder::allocatedSize(home + "/c/one-byte"), 512);
     EXPECT_EQ(Scanner::directorySize(home + "/c"), expected);
     EXPECT_EQ(Scanner::directorySize("~/c"), expected);
-    EXPECT_EQ(Scanner::directorySize("~/c/sub/deeper/data"), allocated(home + "/c/sub/deeper/data"));
+    EXPECT_EQ(Scanner::directorySize("~/c/sub/deeper/data"), TreeBuilder::allocatedSize(home + "/c/sub/deeper/data"));
     EXPECT_EQ(Scanner::directorySize("~/missing"), 0);
 }
 
@@ -66,8 +59,8 @@ TEST_F(TempHomeTest, TargetSizesFollowTheirKind)
     std::vector<std::int64_t> reports;
     const auto size = Scanner::size(pathsTarget({"~/a", "~/missing", "~/b"}),
                                     [&](std::int64_t bytes) { reports.push_back(bytes); });
-    const std::int64_t a = allocated(home + "/a/x");
-    const std::int64_t b = allocated(home + "/b/y");
+    const std::int64_t a = TreeBuilder::allocatedSize(home + "/a/x");
+    const std::int64_t b = TreeBuilder::allocatedSize(home + "/b/y");
     EXPECT_EQ(size, a + b);
     // One report after each location, carrying the running total of the whole target.
     EXPECT_EQ(reports, (std::vector<std::int64_t>{a, a, a + b}));
@@ -80,7 +73,7 @@ TEST_F(TempHomeTest, TargetSizesFollowTheirKind)
     TreeBuilder::writeFile(home + "/.npm/_cacache/blob", 3000);
     const auto& catalog = CleanupCatalog::builtIn();
     const auto npm = std::find_if(catalog.begin(), catalog.end(), [](const auto& t) { return t.id == "npm"; });
-    EXPECT_EQ(Scanner::size(*npm), allocated(home + "/.npm/_cacache/blob"));
+    EXPECT_EQ(Scanner::size(*npm), TreeBuilder::allocatedSize(home + "/.npm/_cacache/blob"));
     const auto docker = std::find_if(catalog.begin(), catalog.end(), [](const auto& t) { return t.id == "docker"; });
     EXPECT_EQ(Scanner::size(*docker), std::nullopt);
 
@@ -97,7 +90,7 @@ TEST_F(TempHomeTest, UnreadableFoldersCountAsEmpty)
     {
         DroppedCapabilities dropped;
         MOPWELL_REQUIRE_ENFORCED_PERMISSIONS(dropped);
-        EXPECT_EQ(Scanner::directorySize(home + "/c"), allocated(home + "/c/visible"));
+        EXPECT_EQ(Scanner::directorySize(home + "/c"), TreeBuilder::allocatedSize(home + "/c/visible"));
     }
     chmod((home + "/c/locked").c_str(), 0755);
 }

@@ -49,6 +49,14 @@ void writeFile(const std::string& path, std::size_t bytes)
     std::ofstream(path, std::ios::binary) << std::string(bytes, 'x');
 }
 
+std::int64_t allocatedSize(const std::string& path)
+{
+    struct stat status {};
+    if (lstat(path.c_str(), &status) != 0)
+        return 0;
+    return static_cast<std::int64_t>(status.st_blocks) * 512;
+}
+
 int openDescriptorCount()
 {
     int count = 0;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 // Builds test trees quickly, including shapes std::filesystem can't reach: paths longer than the
@@ -14,6 +15,9 @@ void makeDeepChain(const std::string& root, int depth, const std::string& name, 
 int chainDepth(const std::string& root, const std::string& name);
 
 void writeFile(const std::string& path, std::size_t bytes);
+
+// The bytes an item takes on disk (its blocks), without following a link.
+std::int64_t allocatedSize(const std::string& path);
 
 // Entries open in this process right now.
 int openDescriptorCount();
