@@ -10,6 +10,7 @@
 #include "Support/TreeBuilder.h"
 
 #include <gmock/gmock.h>
+#include <qcoro/qcorotask.h>
 
 #include <filesystem>
 
@@ -164,4 +165,19 @@ TEST_F(AppModelAutomationTest, StartSetsTheTimersGoingOnce)
     model->restartTimer();
     EXPECT_EQ(AppModelTestAccess::refreshTimer(*model)->interval(), 7500);
     ASSERT_TRUE(waitUntil([&] { return model->lastScan().has_value(); }));  // start's first scan
+}
+
+TEST_F(AppModelAutomationTest, TheCacheWatcherRemeasuresOnlyEverydayCaches)
+{
+    seedEverywhere();
+    settings.setDeveloperMode(true);
+    settings.setEnabled(false, "firefox");  // disabled caches are still watched
+    model->rebuildTargets();
+    QCoro::waitFor(AppModelTestAccess::refreshCacheSizes(*model));
+    EXPECT_GT(*state("appcaches")->size, 0);
+    EXPECT_EQ(state("firefox")->size, 0);
+    EXPECT_TRUE(state("trash")->size.has_value());
+    EXPECT_EQ(state("gradle")->size, std::nullopt);  // developer caches wait for a full scan
+    EXPECT_EQ(state("npm")->size, std::nullopt);
+    EXPECT_EQ(model->lastScan(), std::nullopt);
 }

@@ -21,6 +21,7 @@ struct AppModelTestAccess {
         }
     }
     static void setDisk(AppModel& model, DiskInfo disk) { model.disk_ = disk; }
+    static QCoro::Task<> refreshCacheSizes(AppModel& model) { return model.refreshCacheSizes(); }
     static const QTimer* refreshTimer(const AppModel& model) { return model.timer_; }
     static const QTimer* cacheWatchTimer(const AppModel& model) { return model.cacheWatchTimer_; }
 };
