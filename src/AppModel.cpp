@@ -228,3 +228,20 @@ QString AppModel::menuBarText() const
     }
     return {};
 }
+
+void AppModel::setGroupEnabledById(bool enabled, const QString& groupId)
+{
+    for (const auto& group : simpleGroups()) {
+        if (toQt(group.id) == groupId)
+            setGroupEnabled(enabled, group);
+    }
+}
+
+bool AppModel::isGroupEnabledById(const QString& groupId) const
+{
+    for (const auto& group : simpleGroups()) {
+        if (toQt(group.id) == groupId)
+            return isGroupEnabled(group);
+    }
+    return false;
+}

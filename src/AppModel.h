@@ -14,6 +14,7 @@
 #include <QObject>
 #include <QString>
 #include <QTimer>
+#include <QVariantMap>
 
 #include <cstdint>
 #include <memory>
@@ -40,6 +41,10 @@ class AppModel : public QObject {
     Q_PROPERTY(qint64 totalReclaimable READ totalReclaimable NOTIFY changed)
     Q_PROPERTY(QString menuBarText READ menuBarText NOTIFY changed)
     Q_PROPERTY(AppSettings* settings READ settings CONSTANT)
+    // For the confirmation window: {kind: "single"|"all", title, sizeText, whySafe,
+    // items: [{label, size (-1 when unknown)}]}, or an empty map when nothing is pending.
+    Q_PROPERTY(QVariantMap pendingClean READ pendingCleanMap NOTIFY pendingCleanChanged)
+    Q_PROPERTY(bool hasPendingClean READ hasPendingClean NOTIFY pendingCleanChanged)
 
 public:
     using SimpleGroup = ::SimpleGroup;
@@ -90,13 +95,15 @@ public:
     // Prepares the confirmation of one target's clean, or of every enabled target. Nothing is
     // removed until confirmPending.
     void requestClean(const std::string& id);
-    void requestCleanAll();
+    Q_INVOKABLE void requestCleanAll();
     const std::optional<PendingClean>& pendingClean() const { return pendingClean_; }
+    QVariantMap pendingCleanMap() const;
+    bool hasPendingClean() const { return pendingClean_.has_value(); }
     // Cancelling the confirmation sets it to none.
     void setPendingClean(std::optional<PendingClean> pending);
     // The user agreed: the pending clean starts, to the Trash unless `permanently` or the setting
     // says otherwise, and runs on after this returns.
-    void confirmPending(bool permanently);
+    Q_INVOKABLE void confirmPending(bool permanently);
     // Cleans one target, or every enabled one in list order. Without a choice, the Trash setting
     // is read when each target is cleaned.
     QCoro::Task<> clean(std::string id, std::optional<bool> moveToTrash = std::nullopt);
@@ -115,6 +122,13 @@ public:
     void restartTimer();
     // Starts an automatic clean when the schedule says one is due.
     void runScheduledCleanupIfDue();
+
+    // The same operations for the views, by id.
+    Q_INVOKABLE void requestCleanOf(const QString& id) { requestClean(id.toStdString()); }
+    Q_INVOKABLE void cancelPending() { setPendingClean(std::nullopt); }
+    Q_INVOKABLE void rescan() { scanAll(); }
+    Q_INVOKABLE void setGroupEnabledById(bool enabled, const QString& groupId);
+    Q_INVOKABLE bool isGroupEnabledById(const QString& groupId) const;
 
     // Safe to call repeatedly: the first call sets the application going, later ones only
     // refresh the disk figures.

@@ -50,6 +50,22 @@ void AppModel::storeSize(const std::string& id, std::optional<std::int64_t> size
     }
 }
 
+QVariantMap AppModel::pendingCleanMap() const
+{
+    if (!pendingClean_)
+        return {};
+    const PendingClean& pending = *pendingClean_;
+    QVariantList items;
+    for (const auto& item : pending.items)
+        items.append(QVariantMap{{"label", toQt(item.label)}, {"size", QVariant::fromValue<qint64>(item.size.value_or(-1))}});
+    const bool single = std::holds_alternative<PendingClean::Single>(pending.kind);
+    return {{"kind", single ? "single" : "all"},
+            {"title", toQt(pending.title)},
+            {"sizeText", pending.sizeText ? toQt(*pending.sizeText) : QString()},
+            {"whySafe", pending.whySafe ? toQt(*pending.whySafe) : QString()},
+            {"items", items}};
+}
+
 void AppModel::requestClean(const std::string& id)
 {
     const TargetState* state = findState(id);

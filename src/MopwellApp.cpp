@@ -20,8 +20,9 @@ void MopwellApp::launch()
         model_.requestCleanAll();
         showPanel();
     });
-    engine_.setInitialProperties({{QStringLiteral("appModel"), QVariant::fromValue(&model_)}});
-    engine_.load(QUrl(QStringLiteral("qrc:/Views/PlaceholderPanelView.qml")));
+    engine_.addImportPath(QStringLiteral("qrc:/"));  // where the views are compiled in
+    engine_.setInitialProperties({{QStringLiteral("model"), QVariant::fromValue(&model_)}});
+    engine_.load(QUrl(QStringLiteral("qrc:/Mopwell/Views/MenuPanelView.qml")));
     if (!QSystemTrayIcon::isSystemTrayAvailable()) {
         // Without a status area the panel is the application: closing it quits.
         QApplication::setQuitOnLastWindowClosed(true);

@@ -2,6 +2,9 @@
 #include "Platform/Bundle.h"
 
 #include <QApplication>
+#include <QtQml/qqmlextensionplugin.h>
+
+Q_IMPORT_QML_PLUGIN(MopwellPlugin)
 
 int main(int argc, char* argv[])
 {

@@ -12,6 +12,8 @@ struct AppModelTestAccess {
             if (state.id() == id)
                 state.size = size;
         }
+        emit model.targetsChanged();
+        emit model.changed();
     }
     static void setScanning(AppModel& model, const std::string& id)
     {
@@ -19,8 +21,21 @@ struct AppModelTestAccess {
             if (state.id() == id)
                 state.isScanning = true;
         }
+        emit model.targetsChanged();
+        emit model.changed();
     }
-    static void setDisk(AppModel& model, DiskInfo disk) { model.disk_ = disk; }
+    static void setDisk(AppModel& model, DiskInfo disk)
+    {
+        model.disk_ = disk;
+        emit model.diskChanged();
+        emit model.changed();
+    }
+    static void setLastScan(AppModel& model, std::optional<Clock::TimePoint> time)
+    {
+        model.lastScan_ = time;
+        emit model.lastScanChanged();
+        emit model.changed();
+    }
     static QCoro::Task<> refreshCacheSizes(AppModel& model) { return model.refreshCacheSizes(); }
     static const QTimer* refreshTimer(const AppModel& model) { return model.timer_; }
     static const QTimer* cacheWatchTimer(const AppModel& model) { return model.cacheWatchTimer_; }

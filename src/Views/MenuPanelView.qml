@@ -1,11 +1,12 @@
 import QtQuick
 import QtQuick.Controls
 import QtQuick.Layouts
+import Mopwell
 
 // Stands in for the panel until it is built: shows what the model knows so far.
 ApplicationWindow {
     id: window
-    required property var appModel
+    required property AppModel model
     title: "Mopwell"
     width: 380
     height: 160
@@ -16,7 +17,7 @@ ApplicationWindow {
         anchors.margins: 16
         spacing: 8
         Label { text: "Mopwell"; font.pixelSize: 20; font.bold: true }
-        Label { text: "Disk used: " + window.appModel.menuBarText }
+        Label { objectName: "usage"; text: "Disk used: " + window.model.menuBarText }
         Button { text: "Quit"; onClicked: Qt.quit() }
     }
 }

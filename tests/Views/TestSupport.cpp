@@ -1,0 +1,94 @@
+#include "Views/TestSupport.h"
+
+#include "AppModel.h"
+#include "Platform/DefaultsStore.h"
+#include "Platform/Trash.h"
+#include "Support/AppModelTestAccess.h"
+#include "Support/TempHome.h"
+#include "Support/TreeBuilder.h"
+
+#include <QDir>
+#include <QQuickWindow>
+
+#include <filesystem>
+
+TestSupport::TestSupport() : tempHome_(std::make_unique<TempHome>()) {}
+
+TestSupport::~TestSupport()
+{
+    models_.clear();
+    Clock::setNowForTesting(std::nullopt);
+}
+
+QString TestSupport::home() const
+{
+    return QString::fromStdString(tempHome_->home());
+}
+
+AppModel* TestSupport::freshModel()
+{
+    // Each model starts from an empty home and an empty defaults file.
+    std::filesystem::remove_all(tempHome_->home());
+    std::filesystem::create_directories(tempHome_->configHome());
+    auto store = std::make_shared<DefaultsStore>(tempHome_->configHome() + "/mopwell/defaults.plist");
+    models_.push_back(std::make_unique<AppModel>(store));
+    return models_.back().get();
+}
+
+void TestSupport::writeFile(const QString& relativePath, int bytes)
+{
+    TreeBuilder::writeFile(tempHome_->home() + "/" + relativePath.toStdString(), static_cast<std::size_t>(bytes));
+}
+
+int TestSupport::countEntries(const QString& absoluteFolder) const
+{
+    return static_cast<int>(QDir(absoluteFolder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot).size());
+}
+
+QString TestSupport::trashFolder() const
+{
+    return QString::fromStdString(Trash::homeTrashFolder());
+}
+
+void TestSupport::setNow(double secondsSinceEpoch)
+{
+    if (secondsSinceEpoch < 0) {
+        Clock::setNowForTesting(std::nullopt);
+        return;
+    }
+    const auto sinceEpoch = std::chrono::duration_cast<Clock::TimePoint::duration>(
+        std::chrono::duration<double>(secondsSinceEpoch));
+    Clock::setNowForTesting(Clock::TimePoint{} + sinceEpoch);
+}
+
+void TestSupport::setDisk(AppModel* model, double total, double availableImportant)
+{
+    AppModelTestAccess::setDisk(*model, {static_cast<std::int64_t>(total), static_cast<std::int64_t>(availableImportant)});
+}
+
+void TestSupport::setLastScanSecondsAgo(AppModel* model, double seconds)
+{
+    const auto ago = std::chrono::duration_cast<Clock::TimePoint::duration>(std::chrono::duration<double>(seconds));
+    AppModelTestAccess::setLastScan(*model, Clock::now() - ago);
+}
+
+void TestSupport::setSize(AppModel* model, const QString& id, double bytes)
+{
+    std::optional<std::int64_t> size;
+    if (bytes >= 0)
+        size = static_cast<std::int64_t>(bytes);
+    AppModelTestAccess::setSize(*model, id.toStdString(), size);
+}
+
+void TestSupport::setScanning(AppModel* model, const QString& id)
+{
+    AppModelTestAccess::setScanning(*model, id.toStdString());
+}
+
+bool TestSupport::saveScreenshot(QQuickItem* item, const QString& name) const
+{
+    if (!item || !item->window())
+        return false;
+    QDir().mkpath(QStringLiteral(MOPWELL_SCREENSHOT_DIR));
+    return item->window()->grabWindow().save(QStringLiteral(MOPWELL_SCREENSHOT_DIR "/") + name + ".png");
+}
