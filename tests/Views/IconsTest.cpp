@@ -1,0 +1,72 @@
+#include "Components/Icons.h"
+#include "Models/BuildArtifactType.h"
+#include "Models/CleanupCatalog.h"
+#include "Support/TempHome.h"
+
+#include <QDirIterator>
+#include <QFile>
+#include <QRegularExpression>
+#include <QtQml/qqmlextensionplugin.h>
+
+#include <set>
+
+Q_IMPORT_QML_PLUGIN(MopwellPlugin)
+
+namespace {
+
+// Every quoted name on the lines of `file` that name a symbol: QML `symbol:`/`…Symbol:` bindings
+// and C++ lines that call into Icons.
+std::set<QString> symbolsUsedIn(const QString& file)
+{
+    QFile source(file);
+    source.open(QIODevice::ReadOnly);
+    static const QRegularExpression quoted(QStringLiteral("\"([a-z][a-z0-9.]*)\""));
+    static const QRegularExpression symbolLine(QStringLiteral("([sS]ymbol\\s*:|Icons::|symbolFor)"));
+    std::set<QString> names;
+    for (const QString& line : QString::fromUtf8(source.readAll()).split('\n')) {
+        if (!symbolLine.match(line).hasMatch())
+            continue;
+        for (auto match = quoted.globalMatch(line); match.hasNext();)
+            names.insert(match.next().captured(1));
+    }
+    return names;
+}
+
+}  // namespace
+
+TEST(Icons, EverySymbolTheApplicationUsesHasAnIcon)
+{
+    std::set<QString> used;
+    for (const auto& target : CleanupCatalog::builtIn())
+        used.insert(QString::fromStdString(target.symbol));
+    for (const auto& target : CleanupCatalog::finderTargets({}, {}, 0))
+        used.insert(QString::fromStdString(target.symbol));
+    used.insert(QString::fromStdString(CleanupTarget::customFolder("/x/y").symbol));
+    for (const auto& type : BuildArtifactType::all())
+        used.insert(QString::fromStdString(type.symbol));
+    QDirIterator sources(QStringLiteral(MOPWELL_SOURCE_DIR), {"*.qml", "*.cpp"}, QDir::Files,
+                         QDirIterator::Subdirectories);
+    while (sources.hasNext()) {
+        const auto names = symbolsUsedIn(sources.next());
+        used.insert(names.begin(), names.end());
+    }
+    ASSERT_GT(used.size(), 10u);
+    for (const QString& symbol : used)
+        EXPECT_TRUE(Icons::isMapped(symbol)) << "no icon for \"" << symbol.toStdString() << "\"";
+}
+
+TEST(Icons, RenderingTintsTheGlyphAndLeavesTheRestClear)
+{
+    const QImage image = Icons::render(QStringLiteral("trash.fill"), {32, 32}, Qt::red);
+    int red = 0, clear = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const QColor pixel = image.pixelColor(x, y);
+            red += pixel.alpha() == 255 && pixel.red() == 255 && pixel.green() == 0 ? 1 : 0;
+            clear += pixel.alpha() == 0 ? 1 : 0;
+        }
+    }
+    EXPECT_GT(red, 100);
+    EXPECT_GT(clear, 100);
+    EXPECT_EQ(Icons::render(QStringLiteral("no.such.symbol"), {8, 8}, Qt::red).pixelColor(4, 4).alpha(), 0);
+}
