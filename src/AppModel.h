@@ -78,7 +78,7 @@ public:
 
     // Builds the live target list from the catalog and the settings, keeping known sizes of ids
     // that stay. Doesn't scan.
-    void rebuildTargets();
+    Q_INVOKABLE void rebuildTargets();
 
     // Measures every live target at once; when all are done, stamps lastScan.
     QCoro::Task<> scanAll();

@@ -1,0 +1,99 @@
+import QtQuick
+import QtTest
+import Mopwell
+
+TestCase {
+    id: test
+    name: "MenuPanelView"
+    when: windowShown
+
+    Component { id: panelComponent; MenuPanelView {} }
+
+    // A panel over a fresh model with a known disk and a few measured targets.
+    function makePanel(developerMode) {
+        const model = support.freshModel()
+        model.settings.developerMode = developerMode
+        model.rebuildTargets()
+        const panel = createTemporaryObject(panelComponent, null, { model: model })
+        panel.show()
+        waitForRendering(panel.contentItem)
+        tryVerify(() => !model.isScanning, 10000)   // the first scan the panel started
+        support.setDisk(model, 500e9, 125e9)        // after start(), which reads the real volume
+        return panel
+    }
+
+    function textOf(panel, name) {
+        return findChild(panel, name).text
+    }
+
+    function test_freshnessFollowsTheLastScan() {
+        const panel = makePanel(false)
+        const model = panel.model
+        support.setNow(2000000000)
+        const cases = [[9, "just now"], [10, "10s ago"], [59, "59s ago"], [60, "1m ago"], [3599, "59m ago"], [3600, "1h ago"]]
+        for (const [seconds, text] of cases) {
+            support.setLastScanSecondsAgo(model, seconds)
+            compare(textOf(panel, "freshness"), text, seconds + " seconds")
+        }
+        support.setScanning(model, "logs")
+        compare(textOf(panel, "freshness"), "Scanning…")
+        support.setNow(-1)
+    }
+
+    function test_theRingShowsHowFullTheDiskIs() {
+        const panel = makePanel(false)
+        const ring = findChild(panel, "diskRing")
+        compare(textOf(panel, "percent"), "75%")
+        compare(textOf(panel, "available"), "125 GB")
+        compare(textOf(panel, "total"), "free of 500 GB")
+        compare(textOf(panel, "used"), "375 GB used")
+        compare(ring.ringColor, Theme.orange)                  // exactly three quarters
+        support.setDisk(panel.model, 1000, 100)
+        compare(ring.ringColor, Theme.red)                     // exactly nine tenths
+        support.setDisk(panel.model, 1000, 251)
+        compare(ring.ringColor, Theme.green)
+        support.setDisk(panel.model, 0, 0)
+        compare(textOf(panel, "percent"), "0%")
+        compare(ring.ringColor, Theme.green)
+        support.setDisk(panel.model, 1000, 2000)
+        compare(textOf(panel, "used"), "Zero KB used")
+    }
+
+    function test_simpleModeGroupsIncludeAndExclude() {
+        const panel = makePanel(false)
+        const model = panel.model
+        support.setSize(model, "appcaches", 2e9)
+        support.setSize(model, "chrome", 5e8)
+        support.setSize(model, "trash", 1e8)
+        compare(textOf(panel, "reclaimable"), "2.6 GB")
+        verify(findChild(panel, "cleanUp").enabled)
+        verify(support.saveScreenshot(panel.contentItem, "panel-simple"))
+
+        const groups = findChild(panel, "groups")
+        const firstCheck = findChild(groups, "include")      // "System & app caches"
+        mouseClick(firstCheck)
+        compare(textOf(panel, "reclaimable"), "600 MB")
+        verify(!model.isGroupEnabledById("syscaches"))
+        compare(model.settings.disabledTargetIDs, ["appcaches", "logs", "maildownloads"])
+        mouseClick(firstCheck)
+        compare(textOf(panel, "reclaimable"), "2.6 GB")
+    }
+
+    function test_nothingToCleanDisablesCleanUp() {
+        const panel = makePanel(false)
+        compare(textOf(panel, "reclaimable"), "Zero KB")
+        verify(!findChild(panel, "cleanUp").enabled)
+    }
+
+    function test_developerModeListsEveryTargetUnderStickyHeaders() {
+        const panel = makePanel(true)
+        const model = panel.model
+        support.setSize(model, "logs", 0)
+        support.setSize(model, "gradle", -1)
+        support.setSize(model, "appcaches", 3.2e9)
+        const list = findChild(panel, "targets")
+        compare(list.height, 360)                               // far more than fits: it scrolls
+        verify(list.contentHeight > 360)
+        verify(support.saveScreenshot(panel.contentItem, "panel-developer"))
+    }
+}
