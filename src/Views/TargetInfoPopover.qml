@@ -12,6 +12,7 @@ Popup {
     property var paths: []
     width: 300
     padding: 14
+    margins: 8  // stays inside the panel, whichever row it belongs to
     background: Rectangle {
         radius: Theme.cornerRadius
         color: Theme.windowBackground

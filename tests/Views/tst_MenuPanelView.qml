@@ -96,4 +96,30 @@ TestCase {
         verify(list.contentHeight > 360)
         verify(support.saveScreenshot(panel.contentItem, "panel-developer"))
     }
+
+    function test_theInfoButtonSaysWhyARowIsSafeAndWhereItLives() {
+        const panel = makePanel(true)
+        const list = findChild(panel, "targets")
+        const appCaches = list.itemAtIndex(1)                   // "App cache files"
+        const info = findChild(appCaches, "info")
+        mouseClick(info)
+        const why = findChild(appCaches, "whySafe")
+        verify(why !== null)
+        tryCompare(why, "visible", true)
+        compare(why.text, "Apps and websites recreate these caches automatically when they next need them.")
+        verify(support.saveScreenshot(panel.contentItem, "panel-info"))
+    }
+
+    function test_excludedRowsAreDimmedAndLeaveTheTotal() {
+        const panel = makePanel(true)
+        const model = panel.model
+        support.setSize(model, "appcaches", 3e9)
+        support.setSize(model, "logs", 1e9)
+        compare(textOf(panel, "reclaimable"), "4 GB")
+        const logsRow = findChild(panel, "targets").itemAtIndex(2)
+        mouseClick(findChild(logsRow, "include"))
+        compare(textOf(panel, "reclaimable"), "3 GB")
+        compare(findChild(logsRow, "name").parent.opacity, 0.5)
+        verify(model.settings.disabledTargetIDs.indexOf("logs") >= 0)
+    }
 }
