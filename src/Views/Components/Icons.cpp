@@ -20,8 +20,10 @@ QImage render(const QString& symbol, QSize size, const QColor& color)
 {
     QImage image(size, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
+    if (size.isEmpty() || !isMapped(symbol))
+        return image;
     QSvgRenderer renderer(resourcePath(symbol));
-    if (!renderer.isValid() || size.isEmpty())
+    if (!renderer.isValid())
         return image;
     QSizeF glyph = renderer.defaultSize();
     glyph.scale(size, Qt::KeepAspectRatio);

@@ -22,6 +22,8 @@ QtObject {
     readonly property font footnote: Qt.font({ pixelSize: 10 })
     readonly property font caption1: Qt.font({ pixelSize: 10 })
     readonly property font caption2: Qt.font({ pixelSize: 9 })
+    // Paths and other text that reads better in fixed-width letters.
+    readonly property string monospaceFamily: "monospace"
 
     // Colours.
     readonly property color accent: dark ? "#0a84ff" : "#007aff"
@@ -36,6 +38,9 @@ QtObject {
     readonly property color barBackground: dark ? "#e6323234" : "#eaf0f0f2"
     readonly property color faintFill: dark ? "#0fffffff" : "#0a000000"
     readonly property color greenTint: Qt.rgba(green.r, green.g, green.b, 0.12)
+    // The face of a plain push button, beside a prominent one.
+    readonly property color controlBackground: dark ? "#48484a" : "#ffffff"
+    readonly property color accentText: "#ffffff"
 
     // Spacing and shapes.
     readonly property int cornerRadius: 8

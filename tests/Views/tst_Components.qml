@@ -1,0 +1,154 @@
+import QtQuick
+import QtQuick.Controls
+import QtTest
+import Mopwell
+
+// TestCase itself is never shown, so the components under test live in this item.
+Item {
+    id: host
+    width: 600
+    height: 400
+
+    TestCase {
+        id: testCase
+        name: "Components"
+        when: windowShown
+
+        Component {
+            id: emptyStateComponent
+            EmptyState {
+                width: 600
+                height: 400
+                icon: "checkmark.circle"
+                title: "Nothing to clean"
+            }
+        }
+        Component {
+            id: emptyStateWithAction
+            EmptyState {
+                width: 600
+                height: 400
+                icon: "checkmark.circle"
+                title: "No projects yet"
+                message: "Choose a folder that holds your code, and build folders inside it show up here."
+                Button { objectName: "chooseFolder"; text: "Choose Folder…" }
+            }
+        }
+        Component {
+            id: toolHeaderComponent
+            ToolHeader { icon: "hammer.fill"; title: "Project Cleanup"; subtitle: "Build folders you can regenerate." }
+        }
+        Component {
+            id: rowComponent
+            SelectableRow {
+                width: 400
+                title: "DerivedData"
+                property int toggles: 0
+                onToggle: toggles += 1
+            }
+        }
+        Component {
+            id: buttonComponent
+            CleanActionButton {
+                title: "Move to Trash"
+                systemImage: "trash"
+                property int presses: 0
+                onClicked: presses += 1
+            }
+        }
+        Component {
+            id: centredWindow
+            Window {
+                x: 0
+                y: 0
+                width: 200
+                height: 100
+                WindowCenterer {}
+            }
+        }
+
+        // Rows and columns lay out their children before the next frame; clicks and sizes need it.
+        function create(component, properties) {
+            const item = createTemporaryObject(component, host, properties || {})
+            verify(item !== null)
+            waitForItemPolished(item)
+            return item
+        }
+
+        function test_emptyStateShowsItsTextsAndActions() {
+            const plain = create(emptyStateComponent)
+            compare(findChild(plain, "emptyStateTitle").text, "Nothing to clean")
+            verify(!findChild(plain, "emptyStateMessage").visible)
+            verify(!findChild(plain, "emptyStateActions").visible)
+
+            const full = create(emptyStateWithAction)
+            const message = findChild(full, "emptyStateMessage")
+            verify(message.visible)
+            // The text column stays narrow in a wide space, so the message wraps.
+            verify(message.width <= 340)
+            verify(message.lineCount > 1)
+            const action = findChild(full, "chooseFolder")
+            verify(findChild(full, "emptyStateActions").visible)
+            // Centred in the space it fills: as much room left of the button as right of it.
+            const left = action.mapToItem(full, 0, 0).x
+            fuzzyCompare(left, full.width - left - action.width, 1)
+        }
+
+        function test_toolHeaderShowsTitleAndSubtitle() {
+            const header = create(toolHeaderComponent)
+            compare(findChild(header, "toolHeaderTitle").text, "Project Cleanup")
+            compare(findChild(header, "toolHeaderSubtitle").text, "Build folders you can regenerate.")
+        }
+
+        function test_selectableRowAsksItsOwnerToToggle() {
+            const row = create(rowComponent)
+            const box = findChild(row, "selectableRowBox")
+            mouseClick(box)
+            compare(row.toggles, 1)
+            // The box shows the owner's state, not its own idea of it.
+            verify(!box.checked)
+            row.isOn = true
+            verify(box.checked)
+            mouseClick(box)
+            compare(row.toggles, 2)
+            verify(box.checked)
+
+            row.enabled = false
+            mouseClick(box)
+            compare(row.toggles, 2)
+        }
+
+        function test_selectableRowShowsOnlyWhatItIsGiven() {
+            const row = create(rowComponent)
+            verify(!findChild(row, "selectableRowSubtitle").visible)
+            verify(!findChild(row, "selectableRowSize").visible)
+            row.subtitle = "~/Library/Developer/Xcode/DerivedData"
+            row.size = 1500000
+            verify(findChild(row, "selectableRowSubtitle").visible)
+            compare(findChild(row, "selectableRowSize").text, "1.5 MB")
+        }
+
+        function test_cleanActionButtonIgnoresPressesWhileDisabled() {
+            const button = create(buttonComponent)
+            compare(button.text, "Move to Trash")
+            mouseClick(button)
+            compare(button.presses, 1)
+            button.enabled = false
+            mouseClick(button)
+            compare(button.presses, 1)
+        }
+
+        function test_windowCentererCentresItsWindowWhenShown() {
+            const window = createTemporaryObject(centredWindow, null)
+            window.show()
+            const screen = window.screen
+            tryCompare(window, "x", screen.virtualX + (screen.width - 200) / 2)
+            compare(window.y, screen.virtualY + (screen.height - 100) / 2)
+            // Moved away and shown again: back in the middle.
+            window.hide()
+            window.x = 5
+            window.show()
+            tryCompare(window, "x", screen.virtualX + (screen.width - 200) / 2)
+        }
+    }
+}

@@ -1,0 +1,254 @@
+import QtQuick
+import QtTest
+import Mopwell
+
+TestCase {
+    id: testCase
+    name: "ConfirmWindowView"
+    when: windowShown
+
+    Component { id: windowComponent; ConfirmWindowView {} }
+    Component {
+        id: sheetWindowComponent
+        Window {
+            property alias sheet: sheet
+            width: 380
+            height: sheet.implicitHeight
+            ConfirmSheet { id: sheet; anchors.fill: parent }
+        }
+    }
+
+    // A model waiting to clean the logs folder, which holds one file.
+    function modelWithPendingLogs(knownSize) {
+        const model = support.freshModel()
+        support.writeFile("Library/Logs/a.log", 5000)
+        support.setSize(model, "logs", knownSize)
+        model.requestCleanOf("logs")
+        verify(model.hasPendingClean)
+        return model
+    }
+
+    function open(model) {
+        const window = createTemporaryObject(windowComponent, null, { model: model })
+        verify(window !== null)
+        window.show()
+        window.requestActivate()
+        tryCompare(window, "active", true)
+        return window
+    }
+
+    function child(window, name) {
+        const item = findChild(window.contentItem, name)
+        verify(item !== null, "no item named " + name)
+        return item
+    }
+
+    // The sheet alone, as a tool window would show it.
+    function showSheet(properties) {
+        const window = createTemporaryObject(sheetWindowComponent, null, {})
+        for (const key in properties)
+            window.sheet[key] = properties[key]
+        window.show()
+        waitForRendering(window.contentItem)
+        return window
+    }
+
+    function trashedCount() {
+        return support.countEntries(support.trashFolder() + "/files")
+    }
+
+    function test_aSingleTargetShowsWhatGoesAndWhy() {
+        const window = open(modelWithPendingLogs(5000))
+        compare(window.title, "Confirm Cleanup")
+        compare(child(window, "confirmTitle").text, "Clean App & system logs")
+        compare(child(window, "confirmSize").text, "Frees about 5 KB. This data regenerates automatically.")
+        compare(child(window, "confirmWhySafeText").text,
+                "Old diagnostic logs. Apps write fresh ones as needed — nothing you use is lost.")
+        compare(child(window, "confirmCount").text, "1 item")
+        compare(child(window, "confirmList").height, 37)
+        const row = child(window, "confirmList").itemAtIndex(0)
+        compare(findChild(row, "confirmItemLabel").text, support.home + "/Library/Logs")
+        verify(!findChild(row, "confirmItemSize").visible)
+        // Developer mode is off: no way around the Trash.
+        verify(!child(window, "confirmPermanent").visible)
+        compare(child(window, "confirmButton").text, "Clean")
+        // The window is the sheet's size and can't be resized.
+        compare(window.width, 380)
+        compare(window.height, window.sheet.implicitHeight)
+        compare(window.maximumHeight, window.minimumHeight)
+        compare(window.contentItem.children[0].implicitHeight, window.height)
+        verify(window.height > 150)
+        verify(support.saveScreenshot(window.contentItem, "confirm-single"))
+    }
+
+    function test_anUnknownSizeLeavesOutTheSizeLine() {
+        const window = open(modelWithPendingLogs(-1))
+        compare(child(window, "confirmTitle").text, "Clean App & system logs")
+        verify(!child(window, "confirmSize").visible)
+        verify(child(window, "confirmWhySafe").visible)
+        verify(support.saveScreenshot(window.contentItem, "confirm-nosize"))
+    }
+
+    function test_listHeight_data() {
+        return [
+            { tag: "one", count: 1, height: 37, text: "1 item" },
+            { tag: "five", count: 5, height: 169, text: "5 items" },
+            { tag: "six stops at the cap", count: 6, height: 200, text: "6 items" },
+            { tag: "forty scroll", count: 40, height: 200, text: "40 items" },
+        ]
+    }
+
+    function test_listHeight(data) {
+        const items = []
+        for (let i = 0; i < data.count; ++i)
+            items.push({ label: "/tmp/item" + i, size: i % 2 ? 1500000 : -1 })
+        const window = showSheet({ items: items })
+        const list = findChild(window.sheet, "confirmList")
+        compare(list.height, data.height)
+        compare(findChild(window.sheet, "confirmCount").text, data.text)
+        // Every item is listed, however many.
+        compare(list.count, data.count)
+        list.positionViewAtEnd()
+        const last = list.itemAtIndex(data.count - 1)
+        compare(findChild(last, "confirmItemLabel").text, "/tmp/item" + (data.count - 1))
+        compare(findChild(last, "confirmItemSize").visible, (data.count - 1) % 2 === 1)
+        if ((data.count - 1) % 2)
+            compare(findChild(last, "confirmItemSize").text, "1.5 MB")
+    }
+
+    function test_aLongLabelIsCutInTheMiddleAndShownWholeForSelecting() {
+        const path = "/home/someone/Library/Developer/Xcode/DerivedData/AVeryLongProjectName-abcdefghijklmnop/Build/Intermediates.noindex"
+        const window = showSheet({ items: [{ label: path, size: 1234567890 }] })
+        const row = findChild(window.sheet, "confirmList").itemAtIndex(0)
+        const label = findChild(row, "confirmItemLabel")
+        verify(label.text.indexOf("…") > 0, label.text)
+        verify(path.startsWith(label.text.split("…")[0]))
+        verify(path.endsWith(label.text.split("…")[1]))
+        compare(findChild(row, "confirmItemSize").text, "1.23 GB")
+        mouseClick(label)
+        compare(label.text, path)
+        label.selectAll()
+        compare(label.selectedText, path)
+    }
+
+    function test_aSheetWithoutItemsOrReassuranceShowsOnlyTheHeadAndButtons() {
+        const window = showSheet({ title: "Build folders" })
+        verify(!findChild(window.sheet, "confirmWhySafe").visible)
+        verify(!findChild(window.sheet, "confirmSize").visible)
+        verify(!findChild(window.sheet, "confirmList").parent.visible)
+        verify(window.sheet.implicitHeight < 120)
+    }
+
+    function test_developerModeOffersToSkipTheTrashForThisCleanOnly() {
+        const model = support.freshModel()
+        support.writeFile("Library/Logs/a.log", 5000)
+        support.setSize(model, "logs", 5000)
+        model.settings.developerMode = true
+        model.requestCleanAll()
+        const window = open(model)
+        const count = model.pendingClean.items.length
+        verify(count >= 7)
+        compare(child(window, "confirmCount").text, count + " items")
+        compare(child(window, "confirmList").height, 200)
+        compare(child(window, "confirmTitle").text, "Clean all enabled items")
+
+        const box = child(window, "confirmPermanent")
+        const button = child(window, "confirmButton")
+        verify(box.visible)
+        compare(box.text, "Delete permanently (skip the Trash)")
+        mouseClick(box)
+        compare(button.text, "Delete")
+        mouseClick(box)
+        compare(button.text, "Clean")
+        mouseClick(box)
+        compare(button.text, "Delete")
+        verify(support.saveScreenshot(window.contentItem, "confirm-all-permanent"))
+
+        mouseClick(button)
+        tryCompare(window, "visible", false)
+        verify(!model.hasPendingClean)
+        tryVerify(() => model.statusMessage.startsWith("Freed"), 10000)
+        compare(support.countEntries(support.home + "/Library/Logs"), 0)
+        // Gone for good, and the Trash setting itself is left as it was.
+        compare(trashedCount(), 0)
+        verify(model.settings.moveToTrash)
+    }
+
+    function test_theChoiceStartsOffForEveryNewConfirmation() {
+        const model = modelWithPendingLogs(5000)
+        model.settings.developerMode = true
+        let window = open(model)
+        mouseClick(child(window, "confirmPermanent"))
+        compare(child(window, "confirmButton").text, "Delete")
+        mouseClick(child(window, "confirmCancel"))
+        tryCompare(window, "visible", false)
+
+        model.requestCleanOf("logs")
+        window.show()
+        verify(!child(window, "confirmPermanent").checked)
+        compare(child(window, "confirmButton").text, "Clean")
+    }
+
+    function test_returnOrClickConfirms_data() {
+        return [{ tag: "Return key", byKey: true }, { tag: "click", byKey: false }]
+    }
+
+    function test_returnOrClickConfirms(data) {
+        const model = modelWithPendingLogs(5000)
+        const window = open(model)
+        if (data.byKey)
+            keyClick(Qt.Key_Return)
+        else
+            mouseClick(child(window, "confirmButton"))
+        tryCompare(window, "visible", false)
+        verify(!model.hasPendingClean)
+        tryVerify(() => model.statusMessage.startsWith("Freed"), 10000)
+        compare(support.countEntries(support.home + "/Library/Logs"), 0)
+        // Without the permanent choice a clean goes to the Trash.
+        verify(trashedCount() > 0)
+    }
+
+    function test_escapeCancelButtonOrClosingTheWindowCancels_data() {
+        return [{ tag: "Escape" }, { tag: "Cancel button" }, { tag: "title bar close" }]
+    }
+
+    function test_escapeCancelButtonOrClosingTheWindowCancels(data) {
+        const model = modelWithPendingLogs(5000)
+        const window = open(model)
+        if (data.tag === "Escape")
+            keyClick(Qt.Key_Escape)
+        else if (data.tag === "Cancel button")
+            mouseClick(child(window, "confirmCancel"))
+        else
+            window.close()
+        tryCompare(window, "visible", false)
+        verify(!model.hasPendingClean)
+        wait(50)
+        compare(support.countEntries(support.home + "/Library/Logs"), 1)
+        compare(model.statusMessage, "")
+    }
+
+    function test_closesItselfWhenNothingIsPending() {
+        // Opened with nothing to confirm.
+        const idle = support.freshModel()
+        const empty = createTemporaryObject(windowComponent, null, { model: idle })
+        empty.show()
+        tryCompare(empty, "visible", false)
+
+        // Or the model drops the request while the window is up.
+        const model = modelWithPendingLogs(5000)
+        const window = open(model)
+        model.cancelPending()
+        tryCompare(window, "visible", false)
+    }
+
+    function test_aNewRequestWhileOpenReplacesWhatIsShown() {
+        const model = modelWithPendingLogs(5000)
+        const window = open(model)
+        model.requestCleanAll()
+        compare(child(window, "confirmTitle").text, "Clean all enabled items")
+        compare(child(window, "confirmCount").text, model.pendingClean.items.length + " items")
+        compare(window.height, window.sheet.implicitHeight)
+        verify(window.visible)
+    }
+}
