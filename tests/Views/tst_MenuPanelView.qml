@@ -8,6 +8,8 @@ TestCase {
     when: windowShown
 
     Component { id: panelComponent; MenuPanelView {} }
+    Component { id: confirmComponent; ConfirmWindowView {} }
+    SignalSpy { id: windowRequests; target: Shell; signalName: "windowRequested" }
 
     // A panel over a fresh model with a known disk and a few measured targets.
     function makePanel(developerMode) {
@@ -121,5 +123,33 @@ TestCase {
         compare(textOf(panel, "reclaimable"), "3 GB")
         compare(findChild(logsRow, "name").parent.opacity, 0.5)
         verify(model.settings.disabledTargetIDs.indexOf("logs") >= 0)
+    }
+
+    function test_cleanUpGoesThroughTheConfirmationIntoTheTrash() {
+        const panel = makePanel(false)
+        const model = panel.model
+        support.writeFile("Library/Logs/app/today.log", 40000)
+        support.writeFile("Library/Caches/browser/blob.bin", 90000)
+        model.rescan()
+        tryVerify(() => !model.isScanning && findChild(panel, "cleanUp").enabled, 10000)
+
+        windowRequests.clear()
+        mouseClick(findChild(panel, "cleanUp"))
+        compare(windowRequests.count, 1)
+        compare(windowRequests.signalArguments[0][0], "confirm")
+        verify(model.hasPendingClean)
+
+        // What the shell opens for that request.
+        const confirm = createTemporaryObject(confirmComponent, null, { model: model })
+        confirm.show()
+        waitForRendering(confirm.contentItem)
+        mouseClick(findChild(confirm, "confirmButton"))
+        tryVerify(() => textOf(panel, "statusText").startsWith("Freed"), 10000)
+        verify(/^Freed .+ total$/.test(textOf(panel, "statusText")))
+        compare(support.countEntries(support.home + "/Library/Logs"), 0)
+        compare(support.countEntries(support.home + "/Library/Caches"), 0)
+        compare(support.countEntries(support.trashFolder() + "/files"), 2)
+        verify(findChild(panel, "status").visible)
+        verify(support.saveScreenshot(panel.contentItem, "panel-after-clean"))
     }
 }
