@@ -1,55 +1,96 @@
 #include "MopwellApp.h"
 
 #include "AppModel.h"
+#include "MenuPanel.h"
 #include "Platform/NotificationCenter.h"
 #include "Services/Notifier.h"
+#include "StatusItem.h"
+#include "Views/Shell.h"
+#include "WindowRegistry.h"
 
-#include <QApplication>
-#include <QIcon>
+#include <QCoreApplication>
 #include <QQuickWindow>
+#include <QSystemTrayIcon>
 
-MopwellApp::MopwellApp(QObject* parent) : QObject(parent), model_(AppModel::shared()) {}
+MopwellApp::Views MopwellApp::Views::application()
+{
+    return {QUrl(QStringLiteral("qrc:/Mopwell/Views/MenuPanelView.qml")), applicationWindows()};
+}
+
+MopwellApp::MopwellApp(QObject* parent) : MopwellApp(AppModel::shared(), Views::application(), parent) {}
+
+MopwellApp::MopwellApp(AppModel& model, Views views, QObject* parent)
+    : QObject(parent), model_(model), panelSource_(std::move(views.panel))
+{
+    engine_.addImportPath(QStringLiteral("qrc:/"));  // where the views are compiled in
+    windows_ = std::make_unique<WindowRegistry>(engine_, model_, std::move(views.windows));
+    listenToViews();
+    listenToNotifications();
+}
+
+MopwellApp::~MopwellApp() = default;
 
 void MopwellApp::launch()
 {
-    // A tap on the low-space alert, or its "Clean Up Now", prepares the clean of everything
-    // enabled and brings the application forward; it never cleans by itself.
-    connect(&Notifier::center(), &NotificationCenter::responded, this, [this](const QString& category) {
-        if (category != QLatin1String(Notifier::lowSpaceCategoryIdentifier))
-            return;
-        model_.requestCleanAll();
-        showPanel();
-    });
-    engine_.addImportPath(QStringLiteral("qrc:/"));  // where the views are compiled in
-    engine_.setInitialProperties({{QStringLiteral("model"), QVariant::fromValue(&model_)}});
-    engine_.load(QUrl(QStringLiteral("qrc:/Mopwell/Views/MenuPanelView.qml")));
-    if (!QSystemTrayIcon::isSystemTrayAvailable()) {
-        // Without a status area the panel is the application: closing it quits.
-        QApplication::setQuitOnLastWindowClosed(true);
-        showPanel();
-        return;
-    }
-    statusItem_ = std::make_unique<QSystemTrayIcon>(QIcon::fromTheme(QStringLiteral("drive-harddisk")));
-    connect(statusItem_.get(), &QSystemTrayIcon::activated, this, &MopwellApp::showPanel);
-    connect(&model_, &AppModel::changed, this, &MopwellApp::refreshStatusItem);
-    refreshStatusItem();
+    if (QSystemTrayIcon::isSystemTrayAvailable())
+        showStatusItem();
+    else
+        showPanelAsWindow();
+}
+
+void MopwellApp::showStatusItem()
+{
+    panel_ = std::make_unique<MenuPanel>(engine_, model_, panelSource_, MenuPanel::Style::dropDown);
+    statusItem_ = std::make_unique<StatusItem>(model_);
+    connect(statusItem_.get(), &StatusItem::clicked, this, [this] { panel_->toggle(statusItem_->geometry()); });
+    connect(statusItem_.get(), &StatusItem::quitChosen, this, &MopwellApp::quit);
     statusItem_->show();
 }
 
-void MopwellApp::showPanel()
+void MopwellApp::showPanelAsWindow()
 {
-    model_.start();
-    for (QObject* root : engine_.rootObjects()) {
-        if (auto* window = qobject_cast<QQuickWindow*>(root)) {
-            window->show();
-            window->raise();
-            window->requestActivate();
-        }
-    }
+    // Without a status area the panel is the application: closing it quits.
+    panel_ = std::make_unique<MenuPanel>(engine_, model_, panelSource_, MenuPanel::Style::window);
+    connect(panel_.get(), &MenuPanel::closed, this, &MopwellApp::quit);
+    panel_->showAsWindow();
 }
 
-void MopwellApp::refreshStatusItem()
+void MopwellApp::openWindow(const QString& id)
 {
-    if (statusItem_)
-        statusItem_->setToolTip(model_.menuBarText());
+    windows_->open(id);
+}
+
+void MopwellApp::listenToViews()
+{
+    Shell& shell = Shell::instance();
+    connect(&shell, &Shell::windowRequested, this, &MopwellApp::openWindow);
+    connect(&shell, &Shell::windowCloseRequested, windows_.get(), &WindowRegistry::close);
+    connect(&shell, &Shell::posted, &notifications_, &AppNotifications::post);
+    connect(&shell, &Shell::quitRequested, this, &MopwellApp::quit);
+}
+
+void MopwellApp::listenToNotifications()
+{
+    connect(&notifications_, &AppNotifications::requestCleanAll, this, &MopwellApp::cleanAll);
+    // A tap on the low-space alert, or its "Clean Up Now", brings up the confirmation of a clean
+    // of everything enabled; it never cleans by itself. The tap may arrive in the middle of other
+    // work, so it is handled from the event loop.
+    connect(&Notifier::center(), &NotificationCenter::responded, this,
+            [this](const QString& category) {
+                if (category == QLatin1String(Notifier::lowSpaceCategoryIdentifier))
+                    notifications_.post(AppNotifications::requestCleanAllName);
+            },
+            Qt::QueuedConnection);
+}
+
+void MopwellApp::cleanAll()
+{
+    // The clean is requested first, so the confirmation finds it when it opens.
+    model_.requestCleanAll();
+    openWindow(QStringLiteral("confirm"));
+}
+
+void MopwellApp::quit()
+{
+    QCoreApplication::quit();
 }

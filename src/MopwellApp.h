@@ -1,26 +1,69 @@
 #pragma once
 
+#include "AppNotifications.h"
+#include "WindowDefinition.h"
+
 #include <QObject>
-#include <QQmlApplicationEngine>
-#include <QSystemTrayIcon>
+#include <QQmlEngine>
+#include <QUrl>
 
 #include <memory>
+#include <vector>
 
 class AppModel;
+class MenuPanel;
+class StatusItem;
+class WindowRegistry;
 
-// The application object: holds the one model, puts the status item up and shows the panel.
+// The application object: holds the one model, puts the status item up, drops the panel from it,
+// opens windows by id and turns the in-process notifications and a tap on the low-space alert
+// into actions on the model.
 class MopwellApp : public QObject {
     Q_OBJECT
 
 public:
+    // The views the application is built from.
+    struct Views {
+        QUrl panel;
+        std::vector<WindowDefinition> windows;
+
+        static Views application();
+    };
+
+    // Over the application's model and views.
     explicit MopwellApp(QObject* parent = nullptr);
+    // Over a model and views of the caller's; tests make their own.
+    MopwellApp(AppModel& model, Views views, QObject* parent = nullptr);
+    ~MopwellApp() override;
+
+    // Puts up the status item, or where the desktop has none, shows the panel as a window that
+    // quits the application when closed.
     void launch();
 
+    // Opens the window with this id, or brings it forward, and activates it.
+    void openWindow(const QString& id);
+
+    AppModel& model() const { return model_; }
+    AppNotifications& notifications() { return notifications_; }
+    WindowRegistry& windows() const { return *windows_; }
+    MenuPanel& panel() const { return *panel_; }
+    // Null where the desktop has no status area.
+    StatusItem* statusItem() const { return statusItem_.get(); }
+
 private:
-    void showPanel();
-    void refreshStatusItem();
+    void listenToViews();
+    void listenToNotifications();
+    void cleanAll();
+    void showStatusItem();
+    void showPanelAsWindow();
+    static void quit();
 
     AppModel& model_;
-    QQmlApplicationEngine engine_;
-    std::unique_ptr<QSystemTrayIcon> statusItem_;
+    // Declared first, so it outlives the windows built with it.
+    QQmlEngine engine_;
+    AppNotifications notifications_;
+    std::unique_ptr<WindowRegistry> windows_;
+    std::unique_ptr<MenuPanel> panel_;
+    std::unique_ptr<StatusItem> statusItem_;
+    QUrl panelSource_;
 };

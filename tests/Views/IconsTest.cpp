@@ -14,21 +14,25 @@ Q_IMPORT_QML_PLUGIN(MopwellPlugin)
 
 namespace {
 
-// Every quoted name on the lines of `file` that name a symbol: QML `symbol:`/`…Symbol:` bindings
-// and C++ lines that call into Icons.
+// Every symbol name the sources bind or draw: in QML the quoted names in the expression bound to
+// a `symbol:`/`…Symbol:` property (up to the next ";" or "}"), in C++ the name given to Icons
+// or assigned to a `…symbol`/`…Symbol` constant.
 std::set<QString> symbolsUsedIn(const QString& file)
 {
     QFile source(file);
     source.open(QIODevice::ReadOnly);
     static const QRegularExpression quoted(QStringLiteral("\"([a-z][a-z0-9.]*)\""));
-    static const QRegularExpression symbolLine(QStringLiteral("([sS]ymbol\\s*:|Icons::|symbolFor)"));
+    static const QRegularExpression qmlBinding(QStringLiteral("[sS]ymbol\\s*:([^;}\\n]*)"));
+    static const QRegularExpression cppCall(QStringLiteral(
+        "(?:Icons::\\w+\\(|[sS]ymbol\\s*=)\\s*(?:QStringLiteral\\()?\"([a-z][a-z0-9.]*)\""));
+    const QString text = QString::fromUtf8(source.readAll());
     std::set<QString> names;
-    for (const QString& line : QString::fromUtf8(source.readAll()).split('\n')) {
-        if (!symbolLine.match(line).hasMatch())
-            continue;
-        for (auto match = quoted.globalMatch(line); match.hasNext();)
-            names.insert(match.next().captured(1));
+    for (auto binding = qmlBinding.globalMatch(text); binding.hasNext();) {
+        for (auto name = quoted.globalMatch(binding.next().captured(1)); name.hasNext();)
+            names.insert(name.next().captured(1));
     }
+    for (auto call = cppCall.globalMatch(text); call.hasNext();)
+        names.insert(call.next().captured(1));
     return names;
 }
 
@@ -44,7 +48,7 @@ TEST(Icons, EverySymbolTheApplicationUsesHasAnIcon)
     used.insert(QString::fromStdString(CleanupTarget::customFolder("/x/y").symbol));
     for (const auto& type : BuildArtifactType::all())
         used.insert(QString::fromStdString(type.symbol));
-    QDirIterator sources(QStringLiteral(MOPWELL_SOURCE_DIR), {"*.qml", "*.cpp"}, QDir::Files,
+    QDirIterator sources(QStringLiteral(MOPWELL_SOURCE_DIR), {"*.qml", "*.cpp", "*.h"}, QDir::Files,
                          QDirIterator::Subdirectories);
     while (sources.hasNext()) {
         const auto names = symbolsUsedIn(sources.next());

@@ -8,6 +8,7 @@
 #include "Support/TreeBuilder.h"
 
 #include <QDir>
+#include <QJSEngine>
 #include <QQuickWindow>
 
 #include <filesystem>
@@ -32,6 +33,8 @@ AppModel* TestSupport::freshModel()
     std::filesystem::create_directories(tempHome_->configHome());
     auto store = std::make_shared<DefaultsStore>(tempHome_->configHome() + "/mopwell/defaults.plist");
     models_.push_back(std::make_unique<AppModel>(store));
+    // Returned to QML, which would otherwise take the model over and delete it a second time.
+    QJSEngine::setObjectOwnership(models_.back().get(), QJSEngine::CppOwnership);
     return models_.back().get();
 }
 

@@ -1,0 +1,132 @@
+#!/usr/bin/env bash
+# Runs the real application on a virtual X display with a status area and a notification server,
+# as a user would meet it: the status item appears, a click drops the panel under it, a second
+# click puts it away, and "Quit Mopwell" in the item's menu ends the application. A picture of the
+# screen with the panel open is saved as smoke.png.
+#
+# Usage: run-smoke.sh MOPWELL_EXECUTABLE SCREENSHOT_FOLDER
+# Exits 77 (skipped) when a tool it needs isn't installed; scripts/bootstrap installs them all.
+set -euo pipefail
+
+if [ "${1:-}" != "--in-session" ]; then
+    for tool in Xvfb trayer xdotool xwininfo xwd convert dbus-run-session; do
+        command -v "$tool" >/dev/null || { echo "SKIPPED: $tool is not installed (scripts/bootstrap installs it)"; exit 77; }
+    done
+    # A private session bus for the application and the notification server, gone when we are.
+    exec dbus-run-session -- bash "$0" --in-session "$@"
+fi
+shift
+app=$1
+shots=$2
+mkdir -p "$shots"
+
+work=$(mktemp -d "${TMPDIR:-/tmp}/mopwell-smoke.XXXXXX")
+pids=()
+cleanup() {
+    for pid in "${pids[@]}"; do kill "$pid" 2>/dev/null || true; done
+    wait 2>/dev/null || true
+    rm -rf "$work"
+}
+trap cleanup EXIT
+
+fail() {
+    echo "FAILED: $*"
+    for log in "$work"/*.log; do echo "--- $(basename "$log")"; tail -20 "$log"; done
+    echo "--- windows"
+    xwininfo -root -tree 2>&1 | grep -v '^$' | head -40
+    exit 1
+}
+
+# Polls COMMAND every 0.1 s for up to SECONDS.
+wait_for() {
+    local seconds=$1
+    shift
+    for _ in $(seq $((seconds * 10))); do
+        "$@" && return 0
+        sleep 0.1
+    done
+    return 1
+}
+
+# The X server picks a free display number and tells us on descriptor 3.
+Xvfb -displayfd 3 -screen 0 1280x800x24 -nolisten tcp 3>"$work/display" 2>"$work/xvfb.log" &
+pids+=($!)
+wait_for 10 test -s "$work/display" || fail "the X server didn't start"
+export DISPLAY=":$(head -n1 "$work/display")"
+
+# A status area in a bar along the top of the screen.
+trayer --edge top --align right --widthtype request --height 26 --SetDockType true \
+    --transparent true --alpha 0 --tint 0xdcdcdc >"$work/trayer.log" 2>&1 &
+pids+=($!)
+has_status_area() { xwininfo -root -children | grep -q '("panel" "trayer")'; }
+wait_for 10 has_status_area || fail "the status area didn't appear"
+
+if command -v dunst >/dev/null; then
+    dunst >"$work/dunst.log" 2>&1 &
+    pids+=($!)
+fi
+
+mkdir -p "$work"/{home,config,data,cache,runtime}
+chmod 700 "$work/runtime"
+HOME="$work/home" XDG_CONFIG_HOME="$work/config" XDG_DATA_HOME="$work/data" XDG_CACHE_HOME="$work/cache" \
+    XDG_RUNTIME_DIR="$work/runtime" QT_QPA_PLATFORM=xcb "$app" >"$work/mopwell.log" 2>&1 &
+app_pid=$!
+pids+=($app_pid)
+
+# The status item is the application's window embedded in the status area's bar: prints its
+# width, height, x and y on screen.
+status_item() {
+    xwininfo -root -tree | awk '
+        /\("panel" "trayer"\)/ { inside = 1; next }
+        inside && /\("mopwell" / {
+            split($(NF-1), size, /[x+]/); split($NF, at, /\+/)
+            print size[1], size[2], at[2], at[3]; exit
+        }'
+}
+item_shown() { [ -n "$(status_item)" ]; }
+wait_for 10 item_shown || fail "the status item didn't appear"
+read -r item_w item_h item_x item_y <<<"$(status_item)"
+echo "status item: ${item_w}x${item_h} at ${item_x},${item_y}"
+click_x=$((item_x + item_w / 2))
+click_y=$((item_y + item_h / 2))
+
+# The panel: the application's 380-wide top-level window. Prints its id, x and y.
+panel() {
+    xwininfo -root -children | awk '/\("mopwell" / && $(NF-1) ~ /^380x/ {
+        split($NF, at, /\+/); print $1, at[2], at[3]; exit }'
+}
+panel_shown() {
+    local id
+    id=$(panel | cut -d' ' -f1)
+    [ -n "$id" ] && xwininfo -id "$id" | grep -q 'Map State: IsViewable'
+}
+
+xdotool mousemove "$click_x" "$click_y" click 1
+wait_for 10 panel_shown || fail "a click on the status item didn't show the panel"
+read -r _ panel_x panel_y <<<"$(panel)"
+echo "panel at ${panel_x},${panel_y}"
+# Dropped just under the item, and reaching across it.
+[ "$panel_y" -ge $((item_y + item_h - 2)) ] && [ "$panel_y" -le $((item_y + item_h + 4)) ] ||
+    fail "the panel is at y=$panel_y, not under the status item"
+[ "$panel_x" -le "$click_x" ] && [ $((panel_x + 380)) -ge "$click_x" ] ||
+    fail "the panel at x=$panel_x doesn't reach across the status item"
+
+sleep 1  # let the first scan's figures settle for the picture
+xwd -root -silent | convert xwd:- "$shots/smoke.png"
+echo "screenshot: $shots/smoke.png"
+# The item drew a picture, not an empty square.
+spread=$(convert "$shots/smoke.png" -crop "${item_w}x${item_h}+${item_x}+${item_y}" -format '%[fx:standard_deviation]' info:)
+awk -v s="$spread" 'BEGIN { exit !(s > 0.01) }' || fail "the status item's image is blank"
+
+xdotool mousemove "$click_x" "$click_y" click 1
+panel_hidden() { ! panel_shown; }
+wait_for 5 panel_hidden || fail "a second click didn't put the panel away"
+
+# "Quit Mopwell" is the only entry of the item's menu.
+xdotool mousemove "$click_x" "$click_y" click 3
+sleep 0.5
+xdotool key Down Return
+app_ended() { ! kill -0 "$app_pid" 2>/dev/null; }
+wait_for 10 app_ended || fail "\"Quit Mopwell\" didn't end the application"
+wait "$app_pid" || fail "the application exited with status $?"
+echo "PASSED"
