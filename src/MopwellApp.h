@@ -1,6 +1,7 @@
 #pragma once
 
 #include "AppNotifications.h"
+#include "Services/Updater.h"
 #include "WindowDefinition.h"
 
 #include <QObject>
@@ -44,6 +45,7 @@ public:
     void openWindow(const QString& id);
 
     AppModel& model() const { return model_; }
+    Updater& updater() { return updater_; }
     AppNotifications& notifications() { return notifications_; }
     WindowRegistry& windows() const { return *windows_; }
     MenuPanel& panel() const { return *panel_; }
@@ -59,6 +61,7 @@ private:
     static void quit();
 
     AppModel& model_;
+    Updater updater_;  // made right after the model is taken, and lives as long as the application
     // Declared first, so it outlives the windows built with it.
     QQmlEngine engine_;
     AppNotifications notifications_;
