@@ -8,33 +8,10 @@
 
 using namespace QtConversions;
 
-SimpleGroupListModel::SimpleGroupListModel(QObject* parent) : QAbstractListModel(parent) {}
-
-void SimpleGroupListModel::setSource(AppModel* model)
-{
-    if (model_)
-        disconnect(model_, nullptr, this, nullptr);
-    model_ = model;
-    if (model_)
-        connect(model_, &AppModel::changed, this, &SimpleGroupListModel::refresh);
-    refresh();
-}
-
 void SimpleGroupListModel::refresh()
 {
-    std::vector<SimpleGroup> rows = model_ ? model_->simpleGroups() : std::vector<SimpleGroup>{};
-    const bool sameGroups = std::equal(rows.begin(), rows.end(), rows_.begin(), rows_.end(),
-                                       [](const SimpleGroup& a, const SimpleGroup& b) { return a.id == b.id; });
-    if (sameGroups) {
-        rows_ = std::move(rows);
-        if (!rows_.empty())
-            emit dataChanged(index(0), index(static_cast<int>(rows_.size()) - 1));
-        return;
-    }
-    beginResetModel();
-    rows_ = std::move(rows);
-    endResetModel();
-    emit countChanged();
+    replaceRows(rows_, source() ? source()->simpleGroups() : std::vector<SimpleGroup>{},
+                [](const SimpleGroup& a, const SimpleGroup& b) { return a.id == b.id; });
 }
 
 int SimpleGroupListModel::rowCount(const QModelIndex& parent) const
@@ -44,7 +21,7 @@ int SimpleGroupListModel::rowCount(const QModelIndex& parent) const
 
 QVariant SimpleGroupListModel::data(const QModelIndex& index, int role) const
 {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid) || !model_)
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid) || !source())
         return {};
     const SimpleGroup& group = rows_[static_cast<std::size_t>(index.row())];
     switch (role) {
@@ -53,7 +30,7 @@ QVariant SimpleGroupListModel::data(const QModelIndex& index, int role) const
     case SymbolRole: return toQt(group.symbol);
     case SizeTextRole: return toQt(ByteCountFormatter::string(group.size));
     case IsScanningRole: return group.isScanning;
-    case EnabledRole: return model_->isGroupEnabled(group);
+    case EnabledRole: return source()->isGroupEnabled(group);
     default: return {};
     }
 }

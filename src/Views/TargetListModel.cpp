@@ -30,39 +30,13 @@ std::vector<TargetState> flattened(const AppModel& model)
     return rows;
 }
 
-bool sameOrder(const std::vector<TargetState>& a, const std::vector<TargetState>& b)
-{
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                      [](const TargetState& x, const TargetState& y) { return x.id() == y.id(); });
-}
 
 }  // namespace
 
-TargetListModel::TargetListModel(QObject* parent) : QAbstractListModel(parent) {}
-
-void TargetListModel::setSource(AppModel* model)
-{
-    if (model_)
-        disconnect(model_, nullptr, this, nullptr);
-    model_ = model;
-    if (model_)
-        connect(model_, &AppModel::changed, this, &TargetListModel::refresh);
-    refresh();
-}
-
 void TargetListModel::refresh()
 {
-    std::vector<TargetState> rows = model_ ? flattened(*model_) : std::vector<TargetState>{};
-    if (sameOrder(rows, rows_)) {
-        rows_ = std::move(rows);
-        if (!rows_.empty())
-            emit dataChanged(index(0), index(static_cast<int>(rows_.size()) - 1));
-        return;
-    }
-    beginResetModel();
-    rows_ = std::move(rows);
-    endResetModel();
-    emit countChanged();
+    replaceRows(rows_, source() ? flattened(*source()) : std::vector<TargetState>{},
+                [](const TargetState& a, const TargetState& b) { return a.id() == b.id(); });
 }
 
 int TargetListModel::rowCount(const QModelIndex& parent) const
@@ -86,7 +60,7 @@ int TargetListModel::sectionCount() const
 
 QVariant TargetListModel::data(const QModelIndex& index, int role) const
 {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid) || !model_)
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid) || !source())
         return {};
     const TargetState& row = rows_[static_cast<std::size_t>(index.row())];
     const CleanupTarget& target = row.target;
@@ -99,7 +73,7 @@ QVariant TargetListModel::data(const QModelIndex& index, int role) const
     case SizeBytesRole: return QVariant::fromValue<qint64>(row.size.value_or(-1));
     case IsScanningRole: return row.isScanning;
     case IsCleaningRole: return row.isCleaning;
-    case IncludedRole: return model_->settings()->isEnabled(toQt(target.id));
+    case IncludedRole: return source()->settings()->isEnabled(toQt(target.id));
     case SectionRole: return toQt(std::string(CleanupCategories::rawValue(target.category)));
     case WhySafeRole: return toQt(target.whySafe());
     case DisplayPathsRole: return toQt(target.displayPaths());

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <QAbstractListModel>
-#include <QPointer>
+#include "LiveListModel.h"
+
 #include <QtQml/qqml.h>
 
 #include <string>
@@ -13,11 +13,10 @@
 // The developer list: every live target in the order of its section (category), each row with
 // what the panel shows. Sizes change many times a second while scanning, so rows are updated in
 // place; the model is reset only when the set or order of targets changes.
-class TargetListModel : public QAbstractListModel {
+class TargetListModel : public LiveListModel {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Made by the panel model.")
-    Q_PROPERTY(int count READ rowCount NOTIFY countChanged)
 
 public:
     enum Role {
@@ -35,8 +34,7 @@ public:
         DisplayPathsRole,
     };
 
-    explicit TargetListModel(QObject* parent = nullptr);
-    void setSource(AppModel* model);
+    using LiveListModel::LiveListModel;
 
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
@@ -46,12 +44,8 @@ public:
     // The icon beside a section's title, by the section's name.
     Q_INVOKABLE QString symbolForSection(const QString& section) const;
 
-signals:
-    void countChanged();
-
 private:
-    void refresh();
+    void refresh() override;
 
-    QPointer<AppModel> model_;
     std::vector<TargetState> rows_;
 };

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Support/EventLoop.h"
+
 #include "WindowDefinition.h"
 
 #include <QCoreApplication>
@@ -40,14 +42,7 @@ inline int windowsTitled(const QString& title)
 // Spins the event loop until `done` holds or a few seconds pass; true when it held.
 inline bool eventually(const std::function<bool()>& done)
 {
-    QDeadlineTimer deadline(5000);
-    while (!done()) {
-        if (deadline.hasExpired())
-            return false;
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
-        QThread::msleep(2);
-    }
-    return true;
+    return EventLoop::waitUntil(done, 5000);
 }
 
 inline void settle()

@@ -1,8 +1,6 @@
 #include "Support/ModelFixture.h"
 
-#include <QCoreApplication>
-#include <QDeadlineTimer>
-#include <QThread>
+#include "Support/EventLoop.h"
 
 const TargetState* ModelFixture::state(const std::string& id) const
 {
@@ -15,12 +13,5 @@ const TargetState* ModelFixture::state(const std::string& id) const
 
 bool ModelFixture::waitUntil(const std::function<bool()>& done, int milliseconds)
 {
-    QDeadlineTimer deadline(milliseconds);
-    while (!done()) {
-        if (deadline.hasExpired())
-            return false;
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
-        QThread::msleep(2);
-    }
-    return true;
+    return EventLoop::waitUntil(done, milliseconds);
 }
