@@ -19,8 +19,7 @@ Window {
     onVisibleChanged: if (visible) model.start()
 
     function open(id) {
-        if (typeof Shell !== "undefined")
-            Shell.openWindow(id)
+        Shell.openWindow(id)
     }
 
     MenuPanelModel { id: panelModel; model: panel.model }

@@ -118,7 +118,7 @@ ColumnLayout {
             objectName: "quit"
             text: qsTr("Quit")
             symbol: "power"
-            onClicked: typeof Shell !== "undefined" ? Shell.quit() : Qt.quit()
+            onClicked: Shell.quit()
         }
     }
 }
