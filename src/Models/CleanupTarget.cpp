@@ -24,20 +24,11 @@ std::string joined(const std::vector<std::string>& parts, const std::string& sep
     return text;
 }
 
-std::string lastPathComponent(const std::string& path)
-{
-    std::string trimmed = path;
-    while (trimmed.size() > 1 && trimmed.back() == '/')
-        trimmed.pop_back();
-    const auto slash = trimmed.rfind('/');
-    return slash == std::string::npos ? trimmed : trimmed.substr(slash + 1);
-}
-
 }  // namespace
 
 CleanupTarget CleanupTarget::customFolder(const std::string& path)
 {
-    std::string name = lastPathComponent(path);
+    std::string name = Paths::lastComponent(path);
     if (name.empty())
         name = path;
     return CleanupTarget{"custom:" + path, name, "folder.fill", path, PathsKind{{path}},

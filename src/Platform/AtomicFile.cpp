@@ -1,6 +1,7 @@
 #include "Platform/AtomicFile.h"
 
 #include "Platform/FileSystem.h"
+#include "Platform/Paths.h"
 
 #include <cerrno>
 #include <fcntl.h>
@@ -9,14 +10,6 @@
 
 namespace AtomicFile {
 namespace {
-
-std::string parentOf(const std::string& path)
-{
-    const auto slash = path.rfind('/');
-    if (slash == std::string::npos)
-        return ".";
-    return slash == 0 ? "/" : path.substr(0, slash);
-}
 
 bool writeAll(int fd, std::string_view contents)
 {
@@ -73,7 +66,7 @@ ReadResult read(const std::string& path)
 
 bool replace(const std::string& path, std::string_view contents)
 {
-    const std::string folder = parentOf(path);
+    const std::string folder = Paths::parentFolder(path);
     FileSystem::createFolders(folder);
     std::string temporary = path + ".XXXXXX";
     const int fd = mkostemp(temporary.data(), O_CLOEXEC);

@@ -19,4 +19,10 @@ std::string abbreviatingWithTilde(const std::string& path);
 // written, and "." and ".." removed. A relative path is taken from the working folder.
 std::string resolvingSymlinks(const std::string& path);
 
+// The folder holding `path`: "/" for an item at the top, "." for a bare name.
+std::string parentFolder(const std::string& path);
+
+// The last component of `path`, trailing slashes ignored; empty for "/".
+std::string lastComponent(const std::string& path);
+
 }  // namespace Paths

@@ -21,17 +21,6 @@ namespace {
 // turning the search into an endless loop.
 constexpr unsigned maximumAttempts = 100000;
 
-std::string parentOf(const std::string& path)
-{
-    const auto slash = path.rfind('/');
-    return slash == std::string::npos || slash == 0 ? "/" : path.substr(0, slash);
-}
-
-std::string nameOf(const std::string& path)
-{
-    return path.substr(path.rfind('/') + 1);
-}
-
 // The item's path with its parent's links resolved, so the trash is chosen for where the item
 // really lies and Path= records a location that stays valid. The item itself is kept as named:
 // a link is trashed as the link.
@@ -41,10 +30,10 @@ std::optional<std::string> locatedItem(std::string path)
         path.pop_back();
     if (!path.starts_with('/'))
         return std::nullopt;
-    const std::string name = nameOf(path);
+    const std::string name = Paths::lastComponent(path);
     if (name.empty() || name == "." || name == "..")
         return std::nullopt;
-    const std::string parent = Paths::resolvingSymlinks(parentOf(path));
+    const std::string parent = Paths::resolvingSymlinks(Paths::parentFolder(path));
     return (parent == "/" ? "" : parent) + "/" + name;
 }
 
@@ -123,7 +112,7 @@ Outcome moveWithoutReplacing(const std::string& from, const std::string& to)
 
 Result moveIntoTrash(const std::string& item, const TrashLocation& trash, const std::string& contents)
 {
-    const std::string name = nameOf(item);
+    const std::string name = Paths::lastComponent(item);
     for (unsigned attempt = 1; attempt <= maximumAttempts; ++attempt) {
         const std::string candidate = trashName(name, attempt);
         const std::string infoPath = trash.folder + "/info/" + candidate + std::string(TrashInfo::extension);
@@ -172,13 +161,13 @@ bool putBack(const std::string& trashedPath, const std::string& originalPath)
         trashPath.pop_back();
     if (!FileSystem::exists(trashPath) || FileSystem::exists(originalPath))
         return false;
-    FileSystem::createFolders(parentOf(originalPath));
+    FileSystem::createFolders(Paths::parentFolder(originalPath));
     if (moveWithoutReplacing(trashPath, originalPath) != Outcome::done)
         return false;
     // The record goes with the item, or file managers would list a ghost of it.
-    const std::string filesFolder = parentOf(trashPath);
-    if (nameOf(filesFolder) == "files") {
-        const std::string info = parentOf(filesFolder) + "/info/" + nameOf(trashPath) + std::string(TrashInfo::extension);
+    const std::string filesFolder = Paths::parentFolder(trashPath);
+    if (Paths::lastComponent(filesFolder) == "files") {
+        const std::string info = Paths::parentFolder(filesFolder) + "/info/" + Paths::lastComponent(trashPath) + std::string(TrashInfo::extension);
         unlink(info.c_str());
     }
     return true;

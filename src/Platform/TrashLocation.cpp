@@ -14,12 +14,6 @@
 
 namespace {
 
-std::string parentOf(const std::string& path)
-{
-    const auto slash = path.rfind('/');
-    return slash == std::string::npos || slash == 0 ? "/" : path.substr(0, slash);
-}
-
 std::string childOf(const std::string& folder, const std::string& name)
 {
     return (folder == "/" ? "" : folder) + "/" + name;
@@ -58,7 +52,7 @@ std::optional<MountIdentity> mountOfNearestExisting(std::string path)
             return identity;
         if (path == "/")
             return std::nullopt;
-        path = parentOf(path);
+        path = Paths::parentFolder(path);
     }
 }
 
@@ -66,7 +60,7 @@ std::optional<MountIdentity> mountOfNearestExisting(std::string path)
 std::string topFolderOf(std::string folder, const MountIdentity& mount)
 {
     while (folder != "/") {
-        const std::string parent = parentOf(folder);
+        const std::string parent = Paths::parentFolder(folder);
         if (mountOf(parent) != mount)
             break;
         folder = parent;
@@ -97,7 +91,7 @@ std::optional<TrashLocation> homeTrash(const std::string& folder)
 {
     // The data home is an ordinary folder of the user's; only the trash inside it is private.
     // The trash itself may be a link: users move it to a bigger disk that way.
-    FileSystem::createFolders(parentOf(folder));
+    FileSystem::createFolders(Paths::parentFolder(folder));
     if (mkdir(folder.c_str(), 0700) != 0 && errno != EEXIST)
         return std::nullopt;
     if (!FileSystem::isFolderFollowingLinks(folder) || !hasFilesAndInfo(folder))
@@ -154,7 +148,7 @@ std::optional<TrashLocation> TrashLocation::forItem(const std::string& itemPath)
 {
     // The entry being renamed lives in the parent folder, so the parent's mount decides which
     // trash a rename can reach; an item that is a mount point itself can't be renamed anyway.
-    const std::string parent = parentOf(itemPath);
+    const std::string parent = Paths::parentFolder(itemPath);
     const auto itemMount = mountOf(parent);
     if (!itemMount)
         return std::nullopt;
@@ -172,7 +166,7 @@ bool TrashLocation::holds(const std::string& itemPath)
     // those need no climb to the top.
     if (itemPath.find("/.Trash") == std::string::npos)
         return false;
-    const std::string parent = parentOf(itemPath);
+    const std::string parent = Paths::parentFolder(itemPath);
     const auto mount = mountOf(parent);
     if (!mount)
         return false;
