@@ -1,0 +1,50 @@
+#include "Models/FileCategory.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+using namespace FileCategories;
+
+TEST(FileCategory, RawValuesRoundTripInLegendOrder)
+{
+    for (FileCategory category : all)
+        EXPECT_EQ(fromRawValue(rawValue(category)), category);
+    EXPECT_EQ(fromRawValue("Video"), std::nullopt);
+    EXPECT_EQ(label(FileCategory::caches), "Caches & logs");
+    EXPECT_EQ(color(FileCategory::other), (FileCategoryColor{0.56, 0.56, 0.56}));
+}
+
+TEST(FileCategory, FilesAreSortedByExtensionWhateverTheCase)
+{
+    const std::pair<const char*, FileCategory> cases[] = {
+        {"MOVIE.MOV", FileCategory::video},       {"clip.m2ts", FileCategory::video},
+        {"Photo.JPG", FileCategory::images},      {"AppIcon.icns", FileCategory::images},
+        {"song.Flac", FileCategory::audio},       {"loop.caf", FileCategory::audio},
+        {"archive.tar.gz", FileCategory::archives}, {"Installer.dmg", FileCategory::archives},
+        {"main.m", FileCategory::code},           {"config.YAML", FileCategory::code},
+        {"Keynote.key", FileCategory::documents}, {"data.csv", FileCategory::documents},
+        {"system.log", FileCategory::caches},     {"Crash.ips", FileCategory::caches},
+        {"/Users/me/Movies/trip.mp4", FileCategory::video},
+    };
+    for (const auto& [name, expected] : cases)
+        EXPECT_EQ(forFile(name), expected) << name;
+}
+
+TEST(FileCategory, NamesWithoutAUsableExtensionAreOther)
+{
+    for (const char* name : {"README", ".bashrc", ".cache", "notes.", "", "photos.d/README",
+                             "file.unknown", "Tool.app"})
+        EXPECT_EQ(forFile(name), FileCategory::other) << name;
+}
+
+TEST(FileCategory, BundlesAreRecognisedByTheirFolderExtensionOnly)
+{
+    EXPECT_EQ(bundle("Safari.app"), FileCategory::apps);
+    EXPECT_EQ(bundle("Sparkle.FRAMEWORK"), FileCategory::apps);
+    EXPECT_EQ(bundle("Share.appex"), FileCategory::apps);
+    EXPECT_EQ(bundle("Photos Library.photoslibrary"), FileCategory::images);
+    EXPECT_EQ(bundle("Old.photolibrary"), FileCategory::images);
+    for (const char* name : {"Documents", "backup.zip", "pictures.jpg", ".app", "Folder."})
+        EXPECT_EQ(bundle(name), std::nullopt) << name;
+}
