@@ -1,0 +1,342 @@
+#include "Models/DiskNode.h"
+
+#include <algorithm>
+#include <cstring>
+#include <new>
+#include <utility>
+
+struct DiskNode::Path::Text {
+    std::atomic<std::uint32_t> references{1};
+    std::uint32_t length = 0;
+    const char* bytes() const { return reinterpret_cast<const char*>(this + 1); }
+};
+
+namespace {
+
+enum Flag : std::uint8_t {
+    directoryFlag = 1,
+    syntheticFlag = 2,
+    modifiedFlag = 4,
+    separateNameFlag = 8,  // the name follows the tail instead of being the tail
+    wholeIdFlag = 16,      // the prefix is the whole id and the tail is empty
+};
+
+// File names are at most 255 bytes; longer text only reaches a record through the general
+// constructor, which moves it into the prefix instead.
+constexpr std::size_t maxInlineText = 0xffff;
+
+}  // namespace
+
+DiskNode::Path::Path(std::string_view text)
+{
+    void* memory = ::operator new(sizeof(Text) + text.size());
+    text_ = new (memory) Text;
+    text_->length = static_cast<std::uint32_t>(text.size());
+    std::memcpy(reinterpret_cast<char*>(text_ + 1), text.data(), text.size());
+}
+
+DiskNode::Path::Path(const Path& other) : text_(other.text_)
+{
+    if (text_)
+        text_->references.fetch_add(1, std::memory_order_relaxed);
+}
+
+DiskNode::Path& DiskNode::Path::operator=(const Path& other)
+{
+    Path copy(other);
+    std::swap(text_, copy.text_);
+    return *this;
+}
+
+DiskNode::Path::~Path()
+{
+    if (text_ && text_->references.fetch_sub(1, std::memory_order_acq_rel) == 1) {
+        text_->~Text();
+        ::operator delete(text_);
+    }
+}
+
+std::string_view DiskNode::Path::view() const
+{
+    return text_ ? std::string_view(text_->bytes(), text_->length) : std::string_view();
+}
+
+namespace {
+
+DiskNode* childSlots(DiskNode::Record* record)
+{
+    return reinterpret_cast<DiskNode*>(record + 1);
+}
+
+const char* textOf(const DiskNode::Record* record)
+{
+    return reinterpret_cast<const char*>(record + 1) + record->childCount * sizeof(DiskNode);
+}
+
+}  // namespace
+
+DiskNode DiskNode::allocate(const Path& prefix, std::string_view tail, std::string_view separateName,
+                            std::int64_t size, std::uint8_t flags, FileCategory category,
+                            std::optional<Clock::TimePoint> modified, std::size_t childCount)
+{
+    tail = tail.substr(0, maxInlineText);
+    separateName = separateName.substr(0, maxInlineText);
+    const std::size_t bytes = sizeof(Record) + childCount * sizeof(DiskNode) + tail.size() + separateName.size();
+    auto* record = new (::operator new(bytes)) Record;
+    record->childCount = static_cast<std::uint32_t>(childCount);
+    record->size = size;
+    record->prefix = prefix;
+    record->tailLength = static_cast<std::uint16_t>(tail.size());
+    record->nameLength = static_cast<std::uint16_t>(separateName.size());
+    record->category = static_cast<std::uint8_t>(category);
+    record->flags = flags & ~modifiedFlag;
+    if (modified) {
+        record->flags |= modifiedFlag;
+        record->modified = modified->time_since_epoch().count();
+    }
+    DiskNode* slots = childSlots(record);
+    for (std::size_t i = 0; i < childCount; ++i)
+        new (slots + i) DiskNode;
+    char* text = reinterpret_cast<char*>(slots + childCount);
+    std::memcpy(text, tail.data(), tail.size());
+    std::memcpy(text + tail.size(), separateName.data(), separateName.size());
+    return DiskNode(record);
+}
+
+DiskNode::DiskNode(std::string_view id, std::string_view name, std::int64_t size, bool isDirectory,
+                   FileCategory category, std::optional<Clock::TimePoint> modified, bool isSynthetic,
+                   std::vector<DiskNode> children)
+{
+    std::uint8_t flags = (isDirectory ? directoryFlag : 0) | (isSynthetic ? syntheticFlag : 0);
+    const bool joined = !name.empty() && name.size() <= maxInlineText && id.size() > name.size() &&
+                        id.ends_with(name) && id[id.size() - name.size() - 1] == '/';
+    DiskNode made;
+    if (joined) {
+        made = allocate(Path(id.substr(0, id.size() - name.size() - 1)), name, {}, size, flags, category,
+                        modified, children.size());
+    } else if (id == name && id.size() <= maxInlineText) {
+        made = allocate(Path(), id, {}, size, flags, category, modified, children.size());
+    } else {
+        flags |= wholeIdFlag | separateNameFlag;
+        made = allocate(Path(id), {}, name, size, flags, category, modified, children.size());
+    }
+    std::move(children.begin(), children.end(), childSlots(made.data_));
+    *this = std::move(made);
+}
+
+DiskNode DiskNode::makeEntry(const Path& folder, std::string_view name, std::int64_t size, bool isDirectory,
+                             FileCategory category, std::optional<Clock::TimePoint> modified,
+                             std::vector<DiskNode>&& children)
+{
+    DiskNode made = allocate(folder, name, {}, size, isDirectory ? directoryFlag : 0, category, modified,
+                             children.size());
+    std::move(children.begin(), children.end(), childSlots(made.data_));
+    children.clear();
+    return made;
+}
+
+DiskNode DiskNode::makeSynthetic(const Path& folder, std::string_view largestName, std::int64_t size,
+                                 std::vector<DiskNode>&& children)
+{
+    std::string tail;
+    tail.reserve(largestName.size() + 6);
+    tail.append(largestName).append("#other");
+    DiskNode made = allocate(folder, tail, syntheticName, size, directoryFlag | syntheticFlag | separateNameFlag,
+                             FileCategory::other, std::nullopt, children.size());
+    std::move(children.begin(), children.end(), childSlots(made.data_));
+    children.clear();
+    return made;
+}
+
+DiskNode::DiskNode(const DiskNode& other) noexcept : data_(other.data_)
+{
+    if (data_)
+        data_->references.fetch_add(1, std::memory_order_relaxed);
+}
+
+DiskNode& DiskNode::operator=(const DiskNode& other) noexcept
+{
+    DiskNode copy(other);
+    std::swap(data_, copy.data_);
+    return *this;
+}
+
+DiskNode& DiskNode::operator=(DiskNode&& other) noexcept
+{
+    std::swap(data_, other.data_);
+    return *this;
+}
+
+DiskNode::~DiskNode()
+{
+    release(data_);
+}
+
+// Frees a record and every child record it held the last reference to, with a work list
+// instead of recursion, so a tree of any depth is freed without exhausting the stack.
+void DiskNode::release(Record* data)
+{
+    if (!data || data->references.fetch_sub(1, std::memory_order_acq_rel) != 1)
+        return;
+    std::vector<Record*> pending{data};
+    while (!pending.empty()) {
+        Record* record = pending.back();
+        pending.pop_back();
+        DiskNode* slots = childSlots(record);
+        for (std::uint32_t i = 0; i < record->childCount; ++i) {
+            Record* child = std::exchange(slots[i].data_, nullptr);
+            if (child && child->references.fetch_sub(1, std::memory_order_acq_rel) == 1)
+                pending.push_back(child);
+        }
+        record->~Record();
+        ::operator delete(record);
+    }
+}
+
+std::string DiskNode::id() const
+{
+    if (!data_)
+        return {};
+    if (data_->flags & wholeIdFlag)
+        return std::string(data_->prefix.view());
+    const std::string_view tail(textOf(data_), data_->tailLength);
+    if (!data_->prefix)
+        return std::string(tail);
+    const std::string_view prefix = data_->prefix.view();
+    std::string id;
+    id.reserve(prefix.size() + 1 + tail.size());
+    id.append(prefix).append(1, '/').append(tail);
+    return id;
+}
+
+std::string_view DiskNode::name() const
+{
+    if (!data_)
+        return {};
+    if (data_->flags & separateNameFlag)
+        return {textOf(data_) + data_->tailLength, data_->nameLength};
+    return {textOf(data_), data_->tailLength};
+}
+
+std::int64_t DiskNode::size() const
+{
+    return data_ ? data_->size : 0;
+}
+
+bool DiskNode::isDirectory() const
+{
+    return data_ && (data_->flags & directoryFlag);
+}
+
+FileCategory DiskNode::category() const
+{
+    return data_ ? static_cast<FileCategory>(data_->category) : FileCategory::other;
+}
+
+std::optional<Clock::TimePoint> DiskNode::modified() const
+{
+    if (!data_ || !(data_->flags & modifiedFlag))
+        return std::nullopt;
+    return Clock::TimePoint(Clock::TimePoint::duration(data_->modified));
+}
+
+bool DiskNode::isSynthetic() const
+{
+    return data_ && (data_->flags & syntheticFlag);
+}
+
+std::span<const DiskNode> DiskNode::children() const
+{
+    if (!data_)
+        return {};
+    return {childSlots(data_), data_->childCount};
+}
+
+DiskNode DiskNode::rebuilt(std::vector<DiskNode> children) const
+{
+    if (!data_) {
+        DiskNode made = allocate(Path(), {}, {}, 0, 0, FileCategory::other, std::nullopt, children.size());
+        std::move(children.begin(), children.end(), childSlots(made.data_));
+        return made;
+    }
+    const char* text = textOf(data_);
+    const std::uint8_t flags = data_->flags;
+    DiskNode made = allocate(data_->prefix, {text, data_->tailLength},
+                             (flags & separateNameFlag) ? std::string_view(text + data_->tailLength, data_->nameLength)
+                                                        : std::string_view(),
+                             data_->size, flags, category(), modified(), children.size());
+    std::move(children.begin(), children.end(), childSlots(made.data_));
+    return made;
+}
+
+void DiskNode::setCategory(FileCategory category)
+{
+    if (!data_ || data_->references.load(std::memory_order_acquire) != 1)
+        *this = rebuilt({children().begin(), children().end()});
+    data_->category = static_cast<std::uint8_t>(category);
+}
+
+void DiskNode::setModified(std::optional<Clock::TimePoint> modified)
+{
+    if (!data_ || data_->references.load(std::memory_order_acquire) != 1)
+        *this = rebuilt({children().begin(), children().end()});
+    data_->flags = modified ? (data_->flags | modifiedFlag) : (data_->flags & ~modifiedFlag);
+    data_->modified = modified ? modified->time_since_epoch().count() : 0;
+}
+
+void DiskNode::setSynthetic(bool isSynthetic)
+{
+    if (!data_ || data_->references.load(std::memory_order_acquire) != 1)
+        *this = rebuilt({children().begin(), children().end()});
+    data_->flags = isSynthetic ? (data_->flags | syntheticFlag) : (data_->flags & ~syntheticFlag);
+}
+
+void DiskNode::setChildren(std::vector<DiskNode> children)
+{
+    *this = rebuilt(std::move(children));
+}
+
+bool DiskNode::operator==(const DiskNode& other) const
+{
+    std::vector<std::pair<const DiskNode*, const DiskNode*>> pending{{this, &other}};
+    while (!pending.empty()) {
+        const auto [a, b] = pending.back();
+        pending.pop_back();
+        if (a->sharesRecordWith(*b))
+            continue;
+        if (a->size() != b->size() || a->isDirectory() != b->isDirectory() || a->category() != b->category() ||
+            a->isSynthetic() != b->isSynthetic() || a->modified() != b->modified() || a->name() != b->name() ||
+            a->id() != b->id())
+            return false;
+        const auto left = a->children();
+        const auto right = b->children();
+        if (left.size() != right.size())
+            return false;
+        for (std::size_t i = 0; i < left.size(); ++i)
+            pending.emplace_back(&left[i], &right[i]);
+    }
+    return true;
+}
+
+std::size_t std::hash<DiskNode>::operator()(const DiskNode& node) const
+{
+    std::size_t seed = 0;
+    const auto mix = [&seed](std::size_t value) { seed ^= value + 0x9e3779b97f4a7c15ULL + (seed << 6) + (seed >> 2); };
+    std::vector<const DiskNode*> pending{&node};
+    while (!pending.empty()) {
+        const DiskNode* current = pending.back();
+        pending.pop_back();
+        mix(std::hash<std::string>{}(current->id()));
+        mix(std::hash<std::string_view>{}(current->name()));
+        mix(static_cast<std::size_t>(current->size()));
+        mix(static_cast<std::size_t>(current->category()) * 4 + (current->isDirectory() ? 2 : 0) +
+            (current->isSynthetic() ? 1 : 0));
+        const auto modified = current->modified();
+        mix(modified ? static_cast<std::size_t>(modified->time_since_epoch().count()) : 0x5bd1e995);
+        const auto children = current->children();
+        mix(children.size());
+        for (const DiskNode& child : children)
+            pending.push_back(&child);
+    }
+    return seed;
+}

@@ -1,0 +1,124 @@
+#pragma once
+
+#include "Models/FileCategory.h"
+#include "Platform/Clock.h"
+
+#include <atomic>
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+// One item of the disk map: a file, a folder, or the "(smaller items)" node a folder folds its
+// small entries into. A node is a handle to an immutable, reference-counted record, so copying
+// it — into a callback, across threads, into a provisional root — costs one atomic increment
+// and never copies a subtree. The setters give the handle a changed record of its own and leave
+// every other copy as it was.
+//
+// Memory: a record is one allocation of 40 bytes, followed by 8 bytes per child and the name's
+// bytes inline; ids are not stored whole — every child of a folder shares one copy of the
+// folder's path and joins its own name to it when asked. A folder's path costs 8 bytes plus
+// its length, once per folder. So a file with a 12-byte name takes 52 bytes plus its parent's
+// 8-byte reference, about 72 with the allocator's rounding.
+class DiskNode {
+public:
+    // A folder's path, shared by all of its children's records.
+    class Path {
+    public:
+        Path() = default;
+        explicit Path(std::string_view text);
+        Path(const Path& other);
+        Path& operator=(const Path& other);
+        ~Path();
+        std::string_view view() const;
+        explicit operator bool() const { return text_ != nullptr; }
+
+    private:
+        friend class DiskNode;
+        struct Text;
+        Text* text_ = nullptr;
+    };
+
+    // An empty file node with an empty id.
+    DiskNode() = default;
+    // Any node, as a value: the walk uses the cheaper makeEntry.
+    DiskNode(std::string_view id, std::string_view name, std::int64_t size, bool isDirectory,
+             FileCategory category, std::optional<Clock::TimePoint> modified, bool isSynthetic,
+             std::vector<DiskNode> children);
+
+    // An entry `name` of the folder at `folder` (id = folder + "/" + name). The children are
+    // moved in.
+    static DiskNode makeEntry(const Path& folder, std::string_view name, std::int64_t size,
+                              bool isDirectory, FileCategory category,
+                              std::optional<Clock::TimePoint> modified, std::vector<DiskNode>&& children);
+    // The "(smaller items)" node of `folder`; its id is `largestName`'s id followed by "#other".
+    static DiskNode makeSynthetic(const Path& folder, std::string_view largestName, std::int64_t size,
+                                  std::vector<DiskNode>&& children);
+
+    DiskNode(const DiskNode& other) noexcept;
+    DiskNode(DiskNode&& other) noexcept : data_(other.data_) { other.data_ = nullptr; }
+    DiskNode& operator=(const DiskNode& other) noexcept;
+    DiskNode& operator=(DiskNode&& other) noexcept;
+    ~DiskNode();
+
+    static constexpr std::string_view syntheticName = "(smaller items)";
+
+    std::string id() const;
+    std::string_view name() const;
+    std::int64_t size() const;
+    bool isDirectory() const;
+    FileCategory category() const;
+    std::optional<Clock::TimePoint> modified() const;
+    bool isSynthetic() const;
+    // Kept entries in descending size, the synthetic node, if any, last. Empty for files.
+    std::span<const DiskNode> children() const;
+
+    void setCategory(FileCategory category);
+    void setModified(std::optional<Clock::TimePoint> modified);
+    void setSynthetic(bool isSynthetic);
+    void setChildren(std::vector<DiskNode> children);
+
+    // Both handles show the same record: equal without looking further.
+    bool sharesRecordWith(const DiskNode& other) const { return data_ == other.data_; }
+
+    // All eight fields, children included and in order. Deep trees are compared without
+    // recursion.
+    bool operator==(const DiskNode& other) const;
+
+    struct Record;
+
+private:
+    friend struct Record;
+    explicit DiskNode(Record* data) : data_(data) {}
+    static DiskNode allocate(const Path& prefix, std::string_view tail, std::string_view separateName,
+                             std::int64_t size, std::uint8_t flags, FileCategory category,
+                             std::optional<Clock::TimePoint> modified, std::size_t childCount);
+    DiskNode rebuilt(std::vector<DiskNode> children) const;
+    static void release(Record* data);
+
+    Record* data_ = nullptr;
+};
+
+// The record behind a handle; its children and then its text follow it in the same allocation.
+struct DiskNode::Record {
+    std::atomic<std::uint32_t> references{1};
+    std::uint32_t childCount = 0;
+    std::int64_t size = 0;
+    Clock::TimePoint::rep modified = 0;  // meaningful with the hasModified flag only
+    Path prefix;                         // the folder holding the item; none when the text is the id
+    std::uint16_t tailLength = 0;        // the id after prefix + "/"
+    std::uint16_t nameLength = 0;        // a name stored apart from the tail; 0 when it is the tail
+    std::uint8_t category = 0;
+    std::uint8_t flags = 0;
+};
+
+static_assert(sizeof(DiskNode) == 8, "a node handle is one pointer");
+static_assert(sizeof(DiskNode::Record) == 40, "40 bytes per node before its children and name");
+
+template <>
+struct std::hash<DiskNode> {
+    std::size_t operator()(const DiskNode& node) const;
+};

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "Models/DiskNode.h"
+#include "Services/CancelToken.h"
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+// Walks one folder into a tree of DiskNode for the disk map. Hidden entries are left out, links
+// are never followed (a link is measured as the small file it is), and a file with several hard
+// links counts once per link. Each folder keeps its 60 largest entries of at least 0.4 % of its
+// size; the rest hang below one "(smaller items)" node at the end of its children.
+namespace DiskMapScanner {
+
+using Progress = std::function<void(std::int64_t bytesSeen)>;
+using ChildHandler = std::function<void(const DiskNode& entry)>;
+
+// Blocks until the walk ends; the caller puts it on a background thread. Both callbacks run on
+// that thread and must not block it. `onProgress` gets the bytes seen so far as folders finish,
+// at most every 50 ms, and always just before `onChild` gets a finished folder of the root.
+// `onChild` gets each finished entry of the root in listing order, so the map can be drawn
+// while the walk goes on. `root` may begin with "~".
+//
+// Never fails: a root that is a file comes back as a file node, one that can't be listed as an
+// empty folder, and a cancelled scan returns what it gathered, with every folder's size the sum
+// of what it holds (the caller is expected to drop it).
+DiskNode scanStreaming(const std::string& root, const std::shared_ptr<CancelToken>& token,
+                       const Progress& onProgress, const ChildHandler& onChild);
+
+// The folding rule, given a folder's entries largest first and its size: entries from the 61st
+// on, and those below 0.4 % of `parentTotal` (truncated to whole bytes), move below one
+// "(smaller items)" node appended last, whose id is the largest entry's id + "#other". Small
+// entries of 0 bytes in all are dropped, and a folder of 0 bytes shows nothing.
+std::vector<DiskNode> prune(const DiskNode::Path& folder, std::vector<DiskNode> sortedEntries,
+                            std::int64_t parentTotal);
+
+}  // namespace DiskMapScanner

@@ -1,0 +1,74 @@
+#include "Models/DiskNode.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+DiskNode file(const std::string& id, const std::string& name, std::int64_t size)
+{
+    return DiskNode(id, name, size, false, FileCategory::code, Clock::TimePoint(std::chrono::seconds(5)), false, {});
+}
+
+TEST(DiskNodeTest, KeepsEveryFieldHoweverTheIdIsSpelled)
+{
+    const DiskNode folder("/a/b", "b", 30, true, FileCategory::video, std::nullopt, false,
+                          {file("/a/b/x.c", "x.c", 20), file("/a/b/y.c", "y.c", 10)});
+    EXPECT_EQ(folder.id(), "/a/b");
+    EXPECT_EQ(folder.name(), "b");
+    EXPECT_EQ(folder.size(), 30);
+    EXPECT_TRUE(folder.isDirectory());
+    EXPECT_EQ(folder.category(), FileCategory::video);
+    EXPECT_FALSE(folder.modified());
+    ASSERT_EQ(folder.children().size(), 2u);
+    EXPECT_EQ(folder.children()[1].id(), "/a/b/y.c");
+    EXPECT_EQ(folder.children()[1].modified(), Clock::TimePoint(std::chrono::seconds(5)));
+
+    // Ids that are not parent + "/" + name: the root "/", a synthetic node, anything else.
+    EXPECT_EQ(file("/", "/", 0).id(), "/");
+    const DiskNode synthetic("/a/x.c#other", "(smaller items)", 4, true, FileCategory::other, std::nullopt, true, {});
+    EXPECT_EQ(synthetic.id(), "/a/x.c#other");
+    EXPECT_EQ(synthetic.name(), "(smaller items)");
+    EXPECT_TRUE(synthetic.isSynthetic());
+    EXPECT_EQ(file("relative", "other", 1).id(), "relative");
+    EXPECT_EQ(file("relative", "other", 1).name(), "other");
+}
+
+TEST(DiskNodeTest, CopiesShareSubtreesAndChangesStayWithTheirCopy)
+{
+    DiskNode original("/r", "r", 3, true, FileCategory::other, std::nullopt, false, {file("/r/a", "a", 3)});
+    DiskNode changed = original;
+    EXPECT_TRUE(changed.sharesRecordWith(original));
+
+    changed.setCategory(FileCategory::audio);
+    changed.setModified(Clock::TimePoint(std::chrono::seconds(9)));
+    changed.setSynthetic(true);
+    EXPECT_EQ(original.category(), FileCategory::other);
+    EXPECT_FALSE(original.modified());
+    EXPECT_FALSE(original.isSynthetic());
+    EXPECT_TRUE(changed.children()[0].sharesRecordWith(original.children()[0])) << "the subtree is not copied";
+    EXPECT_EQ(changed.id(), "/r");
+
+    changed.setChildren({});
+    EXPECT_EQ(original.children().size(), 1u);
+    EXPECT_TRUE(changed.children().empty());
+}
+
+TEST(DiskNodeTest, EqualityAndHashTakeAllFieldsAndChildOrder)
+{
+    const auto make = [](std::vector<DiskNode> children, std::int64_t size = 3) {
+        return DiskNode("/r", "r", size, true, FileCategory::other, std::nullopt, false, std::move(children));
+    };
+    const DiskNode a = file("/r/a", "a", 2);
+    const DiskNode b = file("/r/b", "b", 1);
+    EXPECT_EQ(make({a, b}), make({file("/r/a", "a", 2), file("/r/b", "b", 1)}));
+    EXPECT_EQ(std::hash<DiskNode>{}(make({a, b})), std::hash<DiskNode>{}(make({a, b})));
+    EXPECT_NE(make({a, b}), make({b, a}));
+    EXPECT_NE(make({a, b}), make({a, b}, 4));
+    EXPECT_NE(make({a, b}), make({a, file("/r/c", "b", 1)}));
+    DiskNode later = a;
+    later.setModified(std::nullopt);
+    EXPECT_NE(make({a, b}), make({later, b}));
+    EXPECT_EQ(DiskNode(), DiskNode("", "", 0, false, FileCategory::other, std::nullopt, false, {}));
+}
+
+}  // namespace
