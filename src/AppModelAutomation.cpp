@@ -2,6 +2,8 @@
 
 #include "AppModel.h"
 
+#include <QPointer>
+
 #include "EngineJobs.h"
 #include "Platform/ByteCountFormatter.h"
 #include "Platform/Paths.h"
@@ -82,13 +84,17 @@ void AppModel::refreshTick()
 
 QCoro::Task<> AppModel::refreshCacheSizes()
 {
+    const QPointer<AppModel> alive(this);
     std::vector<QCoro::Task<>> scans;
     for (const auto& state : targets_) {
         if (isEverydayCache(state.target))
             scans.push_back(scan(state.id()));
     }
-    for (auto& running : scans)
+    for (auto& running : scans) {
         co_await std::move(running);
+        if (!alive)
+            co_return;  // the model went away while we waited
+    }
 }
 
 void AppModel::runScheduledCleanupIfDue()
@@ -108,6 +114,7 @@ void AppModel::runScheduledCleanupIfDue()
 
 QCoro::Task<> AppModel::autoClean()
 {
+    const QPointer<AppModel> alive(this);
     setIsCleaningAll(true);
     settings_->setLastAutoCleanup(Clock::now());
     std::vector<CleanupTarget> eligible;
@@ -119,9 +126,13 @@ QCoro::Task<> AppModel::autoClean()
     for (const CleanupTarget& target : eligible) {
         // Unattended, so always to the Trash whatever the setting: nothing is lost for good.
         const CleanOutcome outcome = co_await EngineJobs::clean(target, true);
+        if (!alive)
+            co_return;  // the model went away while we waited
         total += outcome.freed;
         record(target, outcome);
         const std::optional<std::int64_t> newSize = co_await EngineJobs::measure(target);
+        if (!alive)
+            co_return;  // the model went away while we waited
         storeSize(target.id, newSize);
     }
     setIsCleaningAll(false);

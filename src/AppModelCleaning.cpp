@@ -2,6 +2,8 @@
 
 #include "AppModel.h"
 
+#include <QPointer>
+
 #include "EngineJobs.h"
 #include "Platform/ByteCountFormatter.h"
 #include "QtConversions.h"
@@ -114,6 +116,7 @@ void AppModel::confirmPending(bool permanently)
 
 QCoro::Task<> AppModel::clean(std::string id, std::optional<bool> moveToTrash)
 {
+    const QPointer<AppModel> alive(this);
     TargetState* state = findState(id);
     if (!state)
         co_return;
@@ -122,7 +125,11 @@ QCoro::Task<> AppModel::clean(std::string id, std::optional<bool> moveToTrash)
     const CleanupTarget target = state->target;
 
     const CleanOutcome outcome = co_await EngineJobs::clean(target, moveToTrash.value_or(settings_->moveToTrash()));
+    if (!alive)
+        co_return;  // the model went away while we waited
     const std::optional<std::int64_t> newSize = co_await EngineJobs::measure(target);
+    if (!alive)
+        co_return;  // the model went away while we waited
 
     if ((state = findState(id))) {
         state->size = newSize;
@@ -140,6 +147,7 @@ QCoro::Task<> AppModel::clean(std::string id, std::optional<bool> moveToTrash)
 
 QCoro::Task<> AppModel::cleanAll(std::optional<bool> moveToTrash)
 {
+    const QPointer<AppModel> alive(this);
     setIsCleaningAll(true);
     const std::vector<TargetState> snapshot = targets_;
     std::int64_t total = 0;
@@ -149,9 +157,13 @@ QCoro::Task<> AppModel::cleanAll(std::optional<bool> moveToTrash)
             continue;
         const CleanOutcome outcome =
             co_await EngineJobs::clean(state.target, moveToTrash.value_or(settings_->moveToTrash()));
+        if (!alive)
+            co_return;  // the model went away while we waited
         total += outcome.freed;
         record(state.target, outcome);
         const std::optional<std::int64_t> newSize = co_await EngineJobs::measure(state.target);
+        if (!alive)
+            co_return;  // the model went away while we waited
         storeSize(state.id(), newSize);
         refreshDiskAndCheckSpace();
     }

@@ -65,16 +65,21 @@ void AppModel::setLastScan(Clock::TimePoint time)
 
 QCoro::Task<> AppModel::scanAll()
 {
+    const QPointer<AppModel> alive(this);
     std::vector<QCoro::Task<>> scans;
     for (const auto& state : targets_)
         scans.push_back(scan(state.id()));
-    for (auto& running : scans)
+    for (auto& running : scans) {
         co_await std::move(running);
+        if (!alive)
+            co_return;  // the model went away while we waited
+    }
     setLastScan(Clock::now());
 }
 
 QCoro::Task<> AppModel::scan(std::string id)
 {
+    const QPointer<AppModel> alive(this);
     TargetState* state = findState(id);
     if (!state)
         co_return;
@@ -84,6 +89,8 @@ QCoro::Task<> AppModel::scan(std::string id)
 
     const std::optional<std::int64_t> bytes =
         co_await EngineJobs::measure(state->target, progressReporter(this, id));
+    if (!alive)
+        co_return;  // the model went away while we waited
 
     state = findState(id);
     if (!state)

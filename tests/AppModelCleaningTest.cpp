@@ -7,6 +7,7 @@
 #include "Support/ModelFixture.h"
 #include "Support/TreeBuilder.h"
 
+#include <QSignalSpy>
 #include <gmock/gmock.h>
 #include <qcoro/qcorotask.h>
 
@@ -164,10 +165,10 @@ TEST_F(AppModelCleaningTest, CleanAllCleansEnabledTargetsInListOrder)
     const auto expected = model->totalReclaimable();
     EXPECT_EQ(expected, *state("appcaches")->size + *state("logs")->size);
 
+    QSignalSpy cleaningAll(model.get(), &AppModel::isCleaningAllChanged);
     model->requestCleanAll();
     model->confirmPending(false);
-    EXPECT_TRUE(model->isCleaningAll());
-    ASSERT_TRUE(waitUntil([&] { return !model->isCleaningAll(); }));
+    ASSERT_TRUE(waitUntil([&] { return cleaningAll.count() == 2 && !model->isCleaningAll(); }));
     EXPECT_EQ(model->statusMessage(), "Freed " + QString::fromStdString(ByteCountFormatter::string(expected)) + " total");
     EXPECT_TRUE(fs::exists(chromeCache));  // the disabled one stays
     EXPECT_FALSE(fs::exists(logs + "/app"));
