@@ -7,6 +7,7 @@
 #include "Services/Cleaner.h"
 #include "Services/Scanner.h"
 #include "EngineJobs.h"
+#include "MainThread.h"
 
 #include <QCoreApplication>
 #include <QPointer>
@@ -23,10 +24,7 @@ namespace {
 Scanner::Progress progressReporter(AppModel* model, const std::string& id)
 {
     return [model = QPointer<AppModel>(model), id](std::int64_t bytes) {
-        QMetaObject::invokeMethod(QCoreApplication::instance(), [model, id, bytes] {
-            if (model)
-                model->reportScanProgress(id, bytes);
-        }, Qt::QueuedConnection);
+        MainThread::post(model, [id, bytes](AppModel& live) { live.reportScanProgress(id, bytes); });
     };
 }
 

@@ -1,5 +1,7 @@
 #include "DiskMapModel.h"
 
+#include "MainThread.h"
+
 #include "Models/ScanPreset.h"
 #include "Models/TrashedItem.h"
 #include "Platform/ByteCountFormatter.h"
@@ -212,22 +214,10 @@ void DiskMapModel::scan(const QString& path)
     QPointer<DiskMapModel> guard(this);
     WorkQueues::userInitiated().start([chosen, token, guard] {
         auto onProgress = [&token, &guard](std::int64_t bytes) {
-            QMetaObject::invokeMethod(
-                QCoreApplication::instance(),
-                [guard, token, bytes] {
-                    if (guard)
-                        guard->receiveProgress(token, bytes);
-                },
-                Qt::QueuedConnection);
+            MainThread::post(guard, [token, bytes](DiskMapModel& model) { model.receiveProgress(token, bytes); });
         };
         auto onChild = [&token, &guard](const DiskNode& entry) {
-            QMetaObject::invokeMethod(
-                QCoreApplication::instance(),
-                [guard, token, entry] {
-                    if (guard)
-                        guard->receiveChild(token, entry);
-                },
-                Qt::QueuedConnection);
+            MainThread::post(guard, [token, entry](DiskMapModel& model) { model.receiveChild(token, entry); });
         };
         DiskNode result = DiskMapScanner::scanStreaming(chosen, token, onProgress, onChild);
         QMetaObject::invokeMethod(
