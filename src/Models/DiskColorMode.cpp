@@ -1,0 +1,24 @@
+#include "Models/DiskColorMode.h"
+
+namespace DiskColorModes {
+
+std::string_view rawValue(DiskColorMode mode)
+{
+    return mode == DiskColorMode::age ? "age" : "type";
+}
+
+std::optional<DiskColorMode> fromRawValue(std::string_view raw)
+{
+    for (DiskColorMode mode : all) {
+        if (rawValue(mode) == raw)
+            return mode;
+    }
+    return std::nullopt;
+}
+
+std::string_view label(DiskColorMode mode)
+{
+    return mode == DiskColorMode::age ? "Age" : "Type";
+}
+
+}  // namespace DiskColorModes
