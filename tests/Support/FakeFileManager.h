@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QDBusConnection>
+#include <QList>
+#include <QObject>
+#include <QString>
+#include <QStringList>
+
+// A file manager as desktops run one: it owns org.freedesktop.FileManager1 on the bus it is
+// given and records what it was asked to show.
+class FakeFileManager : public QObject {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.FileManager1")
+
+public:
+    struct Request {
+        QStringList uris;
+        QString startupId;
+    };
+
+    // Registers on `bus`; `registered()` says whether the name could be taken.
+    explicit FakeFileManager(const QDBusConnection& bus);
+    ~FakeFileManager() override;
+
+    bool registered() const { return registered_; }
+    const QList<Request>& shown() const { return shown_; }
+    // Runs the event loop until `count` requests have arrived, for at most five seconds.
+    bool waitForRequests(qsizetype count) const;
+
+public Q_SLOTS:
+    void ShowItems(const QStringList& uris, const QString& startupId);
+
+private:
+    QDBusConnection bus_;
+    bool registered_ = false;
+    QList<Request> shown_;
+};
