@@ -1,5 +1,8 @@
 #include "DiskMapModel.h"
 
+#include "CategoryColor.h"
+#include "DiskNodeText.h"
+
 #include "MainThread.h"
 
 #include "Models/ScanPreset.h"
@@ -8,6 +11,7 @@
 #include "Platform/DefaultsStore.h"
 #include "Platform/Paths.h"
 #include "Platform/Trash.h"
+#include "Platform/Volumes.h"
 #include "QtConversions.h"
 #include "Services/Cleaner.h"
 #include "Services/DiskMapScanner.h"
@@ -17,6 +21,7 @@
 #include <QVariantMap>
 
 #include <algorithm>
+#include <array>
 #include <iterator>
 #include <utility>
 
@@ -45,14 +50,10 @@ void releaseElsewhere(DiskNode&& node)
     releaseElsewhere(std::move(nodes));
 }
 
-QVariantMap describe(const DiskNode& node)
+QVariantMap presetMap(const std::string& label, const std::string& symbol, const std::string& path)
 {
-    QVariantMap map;
-    map.insert(QStringLiteral("id"), toQt(node.id()));
-    map.insert(QStringLiteral("name"), toQt(std::string(node.name())));
-    map.insert(QStringLiteral("size"), qint64(node.size()));
-    map.insert(QStringLiteral("sizeText"), toQt(ByteCountFormatter::string(node.size())));
-    return map;
+    return {{QStringLiteral("label"), toQt(label)}, {QStringLiteral("symbol"), toQt(symbol)},
+            {QStringLiteral("path"), toQt(path)}};
 }
 
 }  // namespace
@@ -124,7 +125,7 @@ QVariantList DiskMapModel::breadcrumb() const
 {
     QVariantList list;
     for (const DiskNode& node : breadcrumbNodes())
-        list.append(describe(node));
+        list.append(DiskNodeText::describe(node));
     return list;
 }
 
@@ -135,15 +136,71 @@ QVariantList DiskMapModel::childList() const
     if (!focused)
         return list;
     list.reserve(qsizetype(focused->children().size()));
-    for (const DiskNode& child : focused->children()) {
-        QVariantMap map = describe(child);
-        map.insert(QStringLiteral("isDirectory"), child.isDirectory());
-        map.insert(QStringLiteral("isSynthetic"), child.isSynthetic());
-        map.insert(QStringLiteral("category"), toQt(std::string(FileCategories::rawValue(child.category()))));
-        map.insert(QStringLiteral("canZoom"), child.isDirectory() && !child.children().empty());
-        list.append(map);
+    for (const DiskNode& child : focused->children())
+        list.append(DiskNodeText::describe(child));
+    return list;
+}
+
+int DiskMapModel::childCount() const
+{
+    const std::optional<DiskNode> focused = current();
+    return focused ? int(focused->children().size()) : 0;
+}
+
+QVariantMap DiskMapModel::currentNode() const
+{
+    const std::optional<DiskNode> focused = current();
+    if (!focused)
+        return {};
+    QVariantMap map = DiskNodeText::describe(*focused);
+    // The root is known by where it is, the folders entered below it by their names.
+    if (stack_.empty())
+        map.insert(QStringLiteral("name"), DiskNodeText::displayId(*focused));
+    return map;
+}
+
+QVariantMap DiskMapModel::selectedNode() const
+{
+    return selection_ ? DiskNodeText::describe(*selection_) : QVariantMap();
+}
+
+int DiskMapModel::selectedIndex() const
+{
+    const std::optional<DiskNode> focused = current();
+    if (!focused || !selection_)
+        return -1;
+    const std::span<const DiskNode> list = focused->children();
+    const std::string id = selection_->id();
+    const auto found = std::find_if(list.begin(), list.end(), [&id](const DiskNode& node) { return node.id() == id; });
+    return found == list.end() ? -1 : int(found - list.begin());
+}
+
+QVariantList DiskMapModel::presentCategories() const
+{
+    std::array<bool, FileCategories::all.size()> present{};
+    if (const std::optional<DiskNode> focused = current()) {
+        for (const DiskNode& child : focused->children()) {
+            if (!child.isSynthetic())
+                present[std::size_t(child.category())] = true;
+        }
+    }
+    QVariantList list;
+    for (FileCategory category : FileCategories::all) {
+        if (!present[std::size_t(category)])
+            continue;
+        const std::string label(FileCategories::label(category));
+        list.append(QVariantMap{{QStringLiteral("label"), QCoreApplication::translate("FileCategory", label.c_str())},
+                                {QStringLiteral("color"), toQColor(FileCategories::color(category))}});
     }
     return list;
+}
+
+QVariantMap DiskMapModel::childNode(int childIndex) const
+{
+    const std::optional<DiskNode> focused = current();
+    if (!focused || childIndex < 0 || std::size_t(childIndex) >= focused->children().size())
+        return {};
+    return DiskNodeText::describe(focused->children()[std::size_t(childIndex)]);
 }
 
 QString DiskMapModel::currentName() const
@@ -168,11 +225,17 @@ QString DiskMapModel::selectedName() const
 QVariantList DiskMapModel::presets()
 {
     QVariantList list;
-    for (const ScanPreset& preset : ScanPreset::all()) {
-        list.append(QVariantMap{{QStringLiteral("label"), toQt(preset.label)},
-                                {QStringLiteral("symbol"), toQt(preset.symbol)},
-                                {QStringLiteral("path"), toQt(preset.path)}});
-    }
+    for (const ScanPreset& preset : ScanPreset::all())
+        list.append(presetMap(preset.label, preset.symbol, preset.path));
+    return list;
+}
+
+QVariantList DiskMapModel::volumes()
+{
+    constexpr const char* volumeSymbol = "externaldrive";
+    QVariantList list;
+    for (const Volumes::MountedVolume& volume : Volumes::mountedVolumes())
+        list.append(presetMap(volume.name, volumeSymbol, volume.path));
     return list;
 }
 
@@ -427,6 +490,31 @@ void DiskMapModel::trash(const DiskNode& node)
     if (model_)
         model_->recordExternalDeletion(std::string(node.name()), node.size(), trashed);
     scan();
+}
+
+std::optional<DiskNode> DiskMapModel::nodeWithId(const std::string& id) const
+{
+    if (selection_ && selection_->id() == id)
+        return selection_;
+    if (const std::optional<DiskNode> focused = current()) {
+        for (const DiskNode& child : focused->children()) {
+            if (child.id() == id)
+                return child;
+        }
+    }
+    return std::nullopt;
+}
+
+bool DiskMapModel::canTrashNode(const QString& id) const
+{
+    const std::optional<DiskNode> node = nodeWithId(id.toStdString());
+    return node && canTrash(*node);
+}
+
+void DiskMapModel::trashNode(const QString& id)
+{
+    if (const std::optional<DiskNode> node = nodeWithId(id.toStdString()))
+        trash(*node);
 }
 
 void DiskMapModel::trashSelection()

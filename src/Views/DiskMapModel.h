@@ -30,6 +30,7 @@ class DiskMapModel : public QObject {
     Q_PROPERTY(AppModel* model READ model WRITE setModel NOTIFY modelChanged)
     Q_PROPERTY(Phase phase READ phase NOTIFY phaseChanged)
     Q_PROPERTY(bool isScanning READ isScanning NOTIFY phaseChanged)
+    Q_PROPERTY(bool hasRoot READ hasRoot NOTIFY phaseChanged)
     Q_PROPERTY(QString rootPath READ rootPathText NOTIFY rootPathChanged)
     Q_PROPERTY(qint64 scannedBytes READ scannedBytes NOTIFY progressChanged)
     Q_PROPERTY(QString progressText READ progressText NOTIFY progressChanged)
@@ -41,6 +42,15 @@ class DiskMapModel : public QObject {
     Q_PROPERTY(QVariantList children READ childList NOTIFY treeChanged)
     Q_PROPERTY(QString currentName READ currentName NOTIFY treeChanged)
     Q_PROPERTY(qint64 currentSize READ currentSize NOTIFY treeChanged)
+    Q_PROPERTY(int childCount READ childCount NOTIFY treeChanged)
+    // The focused folder and the selection as the views show them (see DiskNodeText::describe);
+    // empty maps when there is none. The focused folder's name is its path, "~" for home.
+    Q_PROPERTY(QVariantMap currentNode READ currentNode NOTIFY treeChanged)
+    Q_PROPERTY(QVariantMap selectedNode READ selectedNode NOTIFY selectionChanged)
+    // The selection's place in `children`, or -1.
+    Q_PROPERTY(int selectedIndex READ selectedIndex NOTIFY selectionChanged)
+    // The kinds of content the focused folder shows, in legend order: [{label, color}].
+    Q_PROPERTY(QVariantList presentCategories READ presentCategories NOTIFY treeChanged)
     Q_PROPERTY(QString selectedId READ selectedId NOTIFY selectionChanged)
     Q_PROPERTY(QString selectedName READ selectedName NOTIFY selectionChanged)
     Q_PROPERTY(bool canTrashSelection READ canTrashSelection NOTIFY selectionChanged)
@@ -65,6 +75,7 @@ public:
 
     Phase phase() const;
     bool isScanning() const { return isScanning_; }
+    bool hasRoot() const { return root_.has_value(); }
     const std::string& rootPath() const { return rootPath_; }
     QString rootPathText() const { return QString::fromStdString(rootPath_); }
     qint64 scannedBytes() const { return scannedBytes_; }
@@ -81,6 +92,11 @@ public:
     QVariantList childList() const;
     QString currentName() const;
     qint64 currentSize() const;
+    int childCount() const;
+    QVariantMap currentNode() const;
+    QVariantMap selectedNode() const;
+    int selectedIndex() const;
+    QVariantList presentCategories() const;
     QString selectedId() const;
     QString selectedName() const;
     bool canTrashSelection() const { return selection_ && canTrash(*selection_); }
@@ -101,6 +117,7 @@ public:
     // By index into `children`; out-of-range indexes do nothing.
     Q_INVOKABLE void zoomInto(int childIndex);
     Q_INVOKABLE void select(int childIndex);
+    Q_INVOKABLE void clearSelection() { setSelection(std::nullopt); }
     // A depth below 1 returns to the root; selection is cleared either way.
     Q_INVOKABLE void goTo(int depth);
     Q_INVOKABLE void goUp();
@@ -108,6 +125,14 @@ public:
     // first child.
     Q_INVOKABLE void moveSelection(int step);
     Q_INVOKABLE void trashSelection();
+    // A child of the focused folder, described as currentNode is; an empty map when out of range.
+    Q_INVOKABLE QVariantMap childNode(int childIndex) const;
+    // By id, for a node the user picked from the map, the list or a menu: a child of the focused
+    // folder or the selection. Unknown ids can't be trashed and trash nothing.
+    Q_INVOKABLE bool canTrashNode(const QString& id) const;
+    Q_INVOKABLE void trashNode(const QString& id);
+    // The mounted volumes the user may scan besides the presets: [{label, symbol, path}].
+    Q_INVOKABLE static QVariantList volumes();
 
 signals:
     void modelChanged();
@@ -128,6 +153,7 @@ private:
     void mergePending();
     void setScanning(bool scanning);
     void replaceRoot(std::optional<DiskNode> root);
+    std::optional<DiskNode> nodeWithId(const std::string& id) const;
 
     QPointer<AppModel> model_;
     std::string rootPath_;

@@ -1,6 +1,7 @@
 #include "Components/Icons.h"
 #include "Models/BuildArtifactType.h"
 #include "Models/CleanupCatalog.h"
+#include "Models/ScanPreset.h"
 #include "Support/TempHome.h"
 
 #include <QDirIterator>
@@ -46,6 +47,8 @@ TEST(Icons, EverySymbolTheApplicationUsesHasAnIcon)
     for (const auto& target : CleanupCatalog::finderTargets({}, {}, 0))
         used.insert(QString::fromStdString(target.symbol));
     used.insert(QString::fromStdString(CleanupTarget::customFolder("/x/y").symbol));
+    for (const auto& preset : ScanPreset::all())
+        used.insert(QString::fromStdString(preset.symbol));
     for (const auto& type : BuildArtifactType::all())
         used.insert(QString::fromStdString(type.symbol));
     QDirIterator sources(QStringLiteral(MOPWELL_SOURCE_DIR), {"*.qml", "*.cpp", "*.h"}, QDir::Files,

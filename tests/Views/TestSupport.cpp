@@ -8,6 +8,10 @@
 #include "Support/TreeBuilder.h"
 
 #include <QDir>
+
+#include <chrono>
+#include <fcntl.h>
+#include <sys/stat.h>
 #include <QJSEngine>
 #include <QQuickWindow>
 
@@ -43,9 +47,27 @@ void TestSupport::writeFile(const QString& relativePath, int bytes)
     TreeBuilder::writeFile(tempHome_->home() + "/" + relativePath.toStdString(), static_cast<std::size_t>(bytes));
 }
 
+void TestSupport::setAgeInDays(const QString& relativePath, double days)
+{
+    const std::string path = tempHome_->home() + "/" + relativePath.toStdString();
+    const auto when = std::chrono::system_clock::now() - std::chrono::duration<double, std::ratio<86400>>(days);
+    const auto nanoseconds = std::chrono::duration_cast<std::chrono::nanoseconds>(when.time_since_epoch()).count();
+    const timespec time{time_t(nanoseconds / 1'000'000'000), long(nanoseconds % 1'000'000'000)};
+    const timespec times[2] = {time, time};
+    utimensat(AT_FDCWD, path.c_str(), times, AT_SYMLINK_NOFOLLOW);
+}
+
 int TestSupport::countEntries(const QString& absoluteFolder) const
 {
     return static_cast<int>(QDir(absoluteFolder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot).size());
+}
+
+QStringList TestSupport::historyNames(AppModel* model) const
+{
+    QStringList names;
+    for (const CleanRecord& record : model->history())
+        names.append(QString::fromStdString(record.targetName));
+    return names;
 }
 
 QString TestSupport::trashFolder() const

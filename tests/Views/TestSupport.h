@@ -3,6 +3,7 @@
 #include <QObject>
 #include <QQuickItem>
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 #include <vector>
@@ -25,6 +26,8 @@ public:
     // A new model; the previous ones stay alive until the tests end, as windows may hold them.
     Q_INVOKABLE AppModel* freshModel();
     Q_INVOKABLE void writeFile(const QString& relativePath, int bytes);
+    // Dates the item in the home as last changed `days` ago.
+    Q_INVOKABLE void setAgeInDays(const QString& relativePath, double days);
     Q_INVOKABLE int countEntries(const QString& absoluteFolder) const;
     Q_INVOKABLE QString trashFolder() const;
 
@@ -34,6 +37,8 @@ public:
     Q_INVOKABLE void setLastScanSecondsAgo(AppModel* model, double seconds);
     Q_INVOKABLE void setSize(AppModel* model, const QString& id, double bytes);  // negative: unknown
     Q_INVOKABLE void setScanning(AppModel* model, const QString& id);
+    // The names of the model's history records, newest first.
+    Q_INVOKABLE QStringList historyNames(AppModel* model) const;
 
     // Saves a picture of the item's window to screenshots/NAME.png in the build folder.
     Q_INVOKABLE bool saveScreenshot(QQuickItem* item, const QString& name) const;

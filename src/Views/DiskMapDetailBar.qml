@@ -1,0 +1,76 @@
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Layouts
+import Mopwell
+
+// The bar under the map: what the pointer is on, else the selection, else the focused folder,
+// and the actions for the selection.
+Item {
+    id: bar
+
+    // As the disk-map model describes nodes; an empty map for none.
+    property var node: ({})
+    // The selection's actions show once something real is selected.
+    property bool showsActions: false
+    property bool canTrash: false
+
+    signal revealRequested()
+    signal trashRequested()
+
+    implicitHeight: 44
+
+    RowLayout {
+        anchors.fill: parent
+        anchors.leftMargin: 12
+        anchors.rightMargin: 12
+        anchors.topMargin: 8
+        anchors.bottomMargin: 8
+        spacing: 10
+
+        SymbolIcon {
+            Layout.preferredWidth: 18
+            Layout.preferredHeight: 18
+            symbol: bar.node.isDirectory === true ? "folder.fill" : "doc.fill"
+            color: Theme.accent
+        }
+        ColumnLayout {
+            Layout.fillWidth: true
+            spacing: 1
+            Label {
+                objectName: "detailName"
+                Layout.fillWidth: true
+                text: bar.node.name ?? ""
+                elide: Text.ElideMiddle
+                font: Qt.font({ pixelSize: Theme.callout.pixelSize, weight: Font.Medium })
+                color: Theme.primary
+            }
+            Label {
+                objectName: "detailPath"
+                Layout.fillWidth: true
+                text: bar.node.displayId ?? ""
+                elide: Text.ElideMiddle
+                font: Qt.font({ family: Theme.monospaceFamily, pixelSize: Theme.caption2.pixelSize })
+                color: Theme.secondary
+            }
+        }
+        Label {
+            objectName: "detailSize"
+            text: bar.node.sizeText ?? ""
+            font: Qt.font({ family: Theme.monospaceFamily, pixelSize: Theme.title2.pixelSize, weight: Font.DemiBold })
+            color: Theme.primary
+        }
+        Button {
+            objectName: "revealButton"
+            visible: bar.showsActions
+            text: qsTr("Reveal in Finder")
+            onClicked: bar.revealRequested()
+        }
+        Button {
+            objectName: "trashButton"
+            visible: bar.showsActions
+            enabled: bar.canTrash
+            text: qsTr("Move to Trash")
+            onClicked: bar.trashRequested()
+        }
+    }
+}

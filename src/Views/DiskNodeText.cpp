@@ -1,0 +1,67 @@
+#include "DiskNodeText.h"
+
+#include "Platform/ByteCountFormatter.h"
+#include "Platform/Paths.h"
+#include "QtConversions.h"
+
+#include <QCoreApplication>
+
+using QtConversions::toQt;
+
+namespace {
+
+// The category labels come from the engine in English; listed here so the translation tools
+// find them.
+[[maybe_unused]] constexpr const char* categoryLabels[] = {
+    QT_TRANSLATE_NOOP("FileCategory", "Video"),     QT_TRANSLATE_NOOP("FileCategory", "Images"),
+    QT_TRANSLATE_NOOP("FileCategory", "Audio"),     QT_TRANSLATE_NOOP("FileCategory", "Archives"),
+    QT_TRANSLATE_NOOP("FileCategory", "Apps"),      QT_TRANSLATE_NOOP("FileCategory", "Code"),
+    QT_TRANSLATE_NOOP("FileCategory", "Documents"), QT_TRANSLATE_NOOP("FileCategory", "Caches & logs"),
+    QT_TRANSLATE_NOOP("FileCategory", "Other"),
+};
+
+}  // namespace
+
+namespace DiskNodeText {
+
+QString labelledName(const DiskNode& node)
+{
+    const QString name = toQt(std::string(node.name()));
+    return node.isDirectory() ? name + QLatin1Char('/') : name;
+}
+
+QString categoryLabel(const DiskNode& node)
+{
+    const std::string label(FileCategories::label(node.category()));
+    return QCoreApplication::translate("FileCategory", label.c_str());
+}
+
+QString kind(const DiskNode& node)
+{
+    return node.isDirectory() ? QCoreApplication::translate("DiskMap", "folder") : categoryLabel(node);
+}
+
+QString displayId(const DiskNode& node)
+{
+    return toQt(Paths::abbreviatingWithTilde(node.id()));
+}
+
+QVariantMap describe(const DiskNode& node)
+{
+    return {
+        {QStringLiteral("id"), toQt(node.id())},
+        {QStringLiteral("displayId"), displayId(node)},
+        {QStringLiteral("name"), toQt(std::string(node.name()))},
+        {QStringLiteral("labelledName"), labelledName(node)},
+        {QStringLiteral("size"), qint64(node.size())},
+        {QStringLiteral("sizeText"), toQt(ByteCountFormatter::string(node.size()))},
+        {QStringLiteral("isDirectory"), node.isDirectory()},
+        {QStringLiteral("isSynthetic"), node.isSynthetic()},
+        {QStringLiteral("canZoom"), node.isDirectory() && !node.children().empty()},
+        {QStringLiteral("category"), toQt(std::string(FileCategories::rawValue(node.category())))},
+        {QStringLiteral("categoryLabel"), categoryLabel(node)},
+        {QStringLiteral("kind"), kind(node)},
+    };
+}
+
+}  // namespace DiskNodeText

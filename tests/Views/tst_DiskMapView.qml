@@ -1,0 +1,220 @@
+import QtQuick
+import QtTest
+import Mopwell
+
+TestCase {
+    id: testCase
+    name: "DiskMapView"
+    when: windowShown
+
+    Component { id: windowComponent; DiskMapView {} }
+
+    // A folder of a few files and one subfolder, every item a different size.
+    function seed() {
+        support.writeFile("Maps/Videos/film.mov", 600000)
+        support.writeFile("Maps/Videos/clip.mp4", 200000)
+        support.writeFile("Maps/photo.jpg", 300000)
+        support.writeFile("Maps/notes.txt", 100000)
+        support.writeFile("Maps/song.mp3", 150000)
+        return support.home + "/Maps"
+    }
+
+    function open(model) {
+        const window = createTemporaryObject(windowComponent, null, { model: model })
+        verify(window !== null)
+        window.show()
+        window.requestActivate()
+        tryCompare(window, "active", true)
+        return window
+    }
+
+    function child(window, name) {
+        const item = findChild(window.contentItem, name)
+        verify(item !== null, "no item named " + name)
+        return item
+    }
+
+    function scanned(window, path) {
+        window.diskMap.scan(path)
+        tryCompare(window.diskMap, "isScanning", false)
+        const canvas = child(window, "treemap")
+        tryVerify(() => canvas.tileCount > 0)
+        waitForRendering(window.contentItem)
+        return canvas
+    }
+
+    function centreOf(canvas, index) {
+        const rect = canvas.tileRect(index)
+        verify(rect.width > 0, "entry " + index + " has no tile")
+        return Qt.point(rect.x + rect.width / 2, rect.y + rect.height / 2)
+    }
+
+    function indexNamed(window, name) {
+        const children = window.diskMap.children
+        for (let i = 0; i < children.length; ++i) {
+            if (children[i].name === name)
+                return i
+        }
+        fail("no entry " + name)
+    }
+
+    function test_startScreenOffersEveryPlaceAndAFolderChoice() {
+        const window = open(support.freshModel())
+        compare(window.minimumWidth, 760)
+        compare(window.minimumHeight, 480)
+        verify(child(window, "startScreen").visible)
+        verify(!child(window, "mapScreen").visible)
+        compare(child(window, "startTitle").text, "What do you want to scan?")
+        for (const label of ["Home", "Documents", "Downloads", "Desktop", "Applications", "Whole Disk"])
+            verify(findChild(window.contentItem, "placeCard_" + label) !== null, label)
+        const choose = child(window, "chooseFolderCard")
+        compare(choose.label, "Choose Folder…")
+        compare(child(window, "startCards").columns, 3)
+        compare(choose.height, 84)
+        verify(support.saveScreenshot(window.contentItem, "diskmap-start"))
+
+        // A card scans its place, and the map shows at once.
+        mouseClick(findChild(window.contentItem, "placeCard_Home"))
+        verify(child(window, "mapScreen").visible)
+        compare(window.diskMap.rootPath, support.home)
+        tryCompare(window.diskMap, "isScanning", false)
+    }
+
+    function test_aScanShowsTilesAndTheListAndZoomsInAndOut() {
+        const window = open(support.freshModel())
+        const canvas = scanned(window, seed())
+        const list = child(window, "sideList")
+        compare(list.count, 4)
+        compare(canvas.tileCount, 4)
+        compare(window.diskMap.children[0].name, "Videos")
+        verify(child(window, "legend").visible)
+        verify(!child(window, "mapPlaceholder").visible)
+        compare(child(window, "detailName").text, "~/Maps")
+
+        // A row's texts for assistive technology.
+        const first = list.itemAtIndex(0)
+        compare(first.Accessible.name, "Videos, folder")
+        verify(first.Accessible.description.endsWith("percent. Double-tap to open"))
+
+        // Hovering tells what lies under the pointer.
+        const photo = centreOf(canvas, indexNamed(window, "photo.jpg"))
+        mouseMove(canvas, photo.x - 2, photo.y - 2)
+        wait(50)
+        mouseMove(canvas, photo.x, photo.y)
+        const tooltip = child(window, "mapTooltip")
+        tryVerify(() => tooltip.visible)
+        compare(child(window, "tooltipName").text, "photo.jpg")
+        verify(child(window, "tooltipDetail").text.endsWith(" · Images"))
+        compare(child(window, "detailName").text, "photo.jpg")
+        verify(tooltip.x >= 0 && tooltip.x + tooltip.width <= canvas.width)
+        waitForRendering(window.contentItem)
+        verify(support.saveScreenshot(window.contentItem, "diskmap-hover"))
+
+        // A double click enters the folder; Escape comes back.
+        const videos = centreOf(canvas, indexNamed(window, "Videos"))
+        mouseDoubleClickSequence(canvas, videos.x, videos.y)
+        compare(window.diskMap.breadcrumb.length, 2)
+        tryCompare(canvas, "tileCount", 2)
+        compare(list.count, 2)
+        keyClick(Qt.Key_Escape)
+        compare(window.diskMap.breadcrumb.length, 1)
+        compare(list.count, 4)
+    }
+
+    function test_keysMoveTheSelectionAndReturnOnlyEntersFolders() {
+        const window = open(support.freshModel())
+        scanned(window, seed())
+        child(window, "mapArea").forceActiveFocus()
+        keyClick(Qt.Key_Down)
+        compare(window.diskMap.selectedName, "Videos")
+        keyClick(Qt.Key_Down)
+        compare(window.diskMap.selectedName, "photo.jpg")
+        compare(child(window, "sideList").itemAtIndex(1).selected, true)
+        // A file can't be entered; Return does nothing with it.
+        keyClick(Qt.Key_Return)
+        compare(window.diskMap.breadcrumb.length, 1)
+        keyClick(Qt.Key_Up)
+        keyClick(Qt.Key_Return)
+        compare(window.diskMap.breadcrumb.length, 2)
+        keyClick(Qt.Key_Left)
+        compare(window.diskMap.breadcrumb.length, 1)
+    }
+
+    function test_ageColouringSwapsTheLegend() {
+        const window = open(support.freshModel())
+        seed()
+        const aged = [["Projects/site/app.js", 90000, 2], ["Projects/site/logo.png", 260000, 40],
+                      ["Projects/old/report.pdf", 420000, 200], ["Projects/old/backup.zip", 700000, 900],
+                      ["Projects/clip.mov", 380000, 120], ["Projects/theme.mp3", 160000, 300]]
+        for (const [path, bytes, days] of aged) {
+            support.writeFile(path, bytes)
+            support.setAgeInDays(path, days)
+        }
+        support.writeFile("Projects/todo.txt", 20000)
+        scanned(window, support.home + "/Projects")
+        verify(child(window, "typeLegend").visible)
+        mouseClick(child(window, "segment_age"))
+        compare(window.colorMode, "age")
+        verify(child(window, "ageLegend").visible)
+        verify(!child(window, "typeLegend").visible)
+        // A file written just now is the fresh end of the scale, one of 300 days most of the way
+        // to red.
+        const list = child(window, "sideList")
+        const fresh = findChild(list.itemAtIndex(list.count - 1), "rowSwatch").color
+        fuzzyCompare(fresh.r, 0.322, 0.01)
+        fuzzyCompare(fresh.g, 0.82, 0.01)
+        fuzzyCompare(fresh.b, 0.312, 0.01)
+        const old = findChild(list.itemAtIndex(indexNamed(window, "theme.mp3")), "rowSwatch").color
+        verify(old.r > 0.8 && old.g < 0.5)
+        waitForRendering(window.contentItem)
+        verify(support.saveScreenshot(window.contentItem, "diskmap-age"))
+    }
+
+    function test_moveToTrashAsksThenTrashesAndKeepsARecord() {
+        const model = support.freshModel()
+        const window = open(model)
+        const canvas = scanned(window, seed())
+        const notes = centreOf(canvas, indexNamed(window, "notes.txt"))
+        mouseClick(canvas, notes.x, notes.y)
+        compare(window.diskMap.selectedName, "notes.txt")
+        const trashButton = child(window, "trashButton")
+        verify(trashButton.visible && trashButton.enabled)
+        verify(child(window, "revealButton").visible)
+
+        // Declining leaves everything in place.
+        mouseClick(trashButton)
+        const dialog = child(window, "trashConfirmation")
+        tryCompare(dialog, "opened", true)
+        compare(findChild(dialog.contentItem, "alertHeading").text, "Move “notes.txt” to the Trash?")
+        compare(findChild(dialog.contentItem, "alertMessage").text,
+                "Frees " + window.diskMap.selectedNode.sizeText + ". You can put it back from the Trash.")
+        mouseClick(findChild(dialog.contentItem, "alertCancel"))
+        tryCompare(dialog, "visible", false)
+        compare(window.pendingTrash, null)
+        compare(support.countEntries(support.trashFolder() + "/files"), 0)
+
+        mouseClick(trashButton)
+        tryCompare(dialog, "opened", true)
+        mouseClick(findChild(dialog.contentItem, "alertConfirm"))
+        tryCompare(dialog, "visible", false)
+        compare(support.countEntries(support.trashFolder() + "/files"), 1)
+        compare(support.historyNames(model)[0], "notes.txt")
+        // The map is rescanned without it.
+        tryVerify(() => !window.diskMap.isScanning && window.diskMap.childCount === 3)
+    }
+
+    function test_theFoldedNodeOffersNoWayToTheTrash() {
+        const window = open(support.freshModel())
+        // Many equal files: a folder shows at most sixty and folds the rest together.
+        for (let i = 0; i < 70; ++i)
+            support.writeFile("Many/file" + (100 + i) + ".dat", 4096)
+        const canvas = scanned(window, support.home + "/Many")
+        const last = window.diskMap.childCount - 1
+        verify(window.diskMap.childNode(last).isSynthetic)
+        window.diskMap.select(last)
+        verify(!child(window, "trashButton").visible)
+        verify(!child(window, "revealButton").visible)
+        window.requestTrash(window.diskMap.selectedNode)
+        compare(window.pendingTrash, null)
+    }
+}
