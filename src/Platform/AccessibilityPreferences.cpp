@@ -63,6 +63,9 @@ AccessibilityPreferences::AccessibilityPreferences(const QDBusConnection& bus, Q
 {
     // Listening starts before reading, so a change made in between is not lost. Bound to the
     // service name: only the portal's signals count, not another client's on the same interface.
+    // The slot's variant argument must be a known meta-type before the bus can match the signal
+    // to it, and nothing else may have used one yet.
+    qRegisterMetaType<QDBusVariant>();
     bus_.connect(serviceName, objectPath, interfaceName, QStringLiteral("SettingChanged"), this,
                  SLOT(handleSettingChanged(QString, QString, QDBusVariant)));
     readInitialValues();
