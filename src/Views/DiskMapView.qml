@@ -13,6 +13,7 @@ Window {
 
     required property AppModel model
     readonly property alias diskMap: diskMap
+    readonly property alias nodeMenu: nodeMenu
     property string colorMode: "type"
     // The node waiting for the user's word before it goes to the Trash, or null.
     property var pendingTrash: null

@@ -49,6 +49,14 @@ TestCase {
         return Qt.point(rect.x + rect.width / 2, rect.y + rect.height / 2)
     }
 
+    function menuItem(menu, name) {
+        for (let i = 0; i < menu.count; ++i) {
+            if (menu.itemAt(i).objectName === name)
+                return menu.itemAt(i)
+        }
+        fail("no menu item " + name)
+    }
+
     function indexNamed(window, name) {
         const children = window.diskMap.children
         for (let i = 0; i < children.length; ++i) {
@@ -211,6 +219,17 @@ TestCase {
         const canvas = scanned(window, support.home + "/Many")
         const last = window.diskMap.childCount - 1
         verify(window.diskMap.childNode(last).isSynthetic)
+        const folded = centreOf(canvas, last)
+        mouseMove(canvas, folded.x - 1, folded.y)
+        mouseMove(canvas, folded.x, folded.y)
+        mouseClick(canvas, folded.x, folded.y, Qt.RightButton)
+        const menu = window.nodeMenu
+        tryVerify(() => menu.opened)
+        // Its files are kept below it, so it can be entered, but nothing else.
+        verify(menuItem(menu, "menuZoomIn").visible)
+        for (const name of ["menuFolded", "menuReveal", "menuOpen", "menuTrash"])
+            verify(!menuItem(menu, name).visible, name)
+        menu.close()
         window.diskMap.select(last)
         verify(!child(window, "trashButton").visible)
         verify(!child(window, "revealButton").visible)
