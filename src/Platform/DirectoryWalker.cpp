@@ -2,8 +2,10 @@
 
 #include "Platform/PosixItemInfo.h"
 
+#include <cstring>
 #include <dirent.h>
 #include <fcntl.h>
+#include <string>
 #include <unistd.h>
 #include <vector>
 
@@ -13,35 +15,42 @@ namespace {
 // deeper ones are closed on the way down and reopened through "..".
 constexpr int openDepthLimit = 64;
 
+// A folder's listing lives in the walk's shared name buffer, from `listingStart` up to where the
+// next folder's begins: each name followed by a zero byte. The folders open at any time are the
+// path from the root down, so their listings stack up in that buffer and a finished folder's
+// is dropped by shortening it.
 struct Frame {
     int descriptor;          // -1 while closed
     std::uint64_t device;
     std::uint64_t inode;
-    std::string name;        // this folder's name in its parent
+    std::size_t nameStart;   // this folder's name in its parent's listing
+    std::size_t nameLength;
     ItemInfo info;           // this folder's own metadata, for leave()
-    std::vector<std::string> children;
-    std::size_t next = 0;
+    std::size_t listingStart;
+    std::size_t next;        // where the next name to visit begins
     int depth;               // depth of this folder; its children are depth + 1
 };
 
-bool listNames(int descriptor, std::vector<std::string>& names)
+// Appends the names of the folder open at `descriptor`, without "." and "..", each followed by
+// a zero byte. Reads the kernel's records straight into one reused buffer: no directory stream
+// to allocate, and no duplicate descriptor to give it. A read that fails ends the listing with
+// what was read, as a directory stream would.
+void appendListing(int descriptor, std::string& names, std::vector<std::uint64_t>& buffer)
 {
-    const int duplicate = dup(descriptor);
-    if (duplicate < 0)
-        return false;
-    DIR* folder = fdopendir(duplicate);
-    if (!folder) {
-        close(duplicate);
-        return false;
+    const auto bytes = reinterpret_cast<char*>(buffer.data());
+    for (;;) {
+        const ssize_t got = getdents64(descriptor, bytes, buffer.size() * sizeof(std::uint64_t));
+        if (got <= 0)
+            return;
+        for (ssize_t at = 0; at < got;) {
+            const auto* entry = reinterpret_cast<const struct dirent64*>(bytes + at);
+            at += entry->d_reclen;
+            const char* name = entry->d_name;
+            if (name[0] == '.' && (name[1] == '\0' || (name[1] == '.' && name[2] == '\0')))
+                continue;
+            names.append(name, std::strlen(name) + 1);
+        }
     }
-    while (const dirent* entry = readdir(folder)) {
-        const char* name = entry->d_name;
-        if (name[0] == '.' && (name[1] == '\0' || (name[1] == '.' && name[2] == '\0')))
-            continue;
-        names.emplace_back(name);
-    }
-    closedir(folder);
-    return true;
 }
 
 bool sameItem(int descriptor, std::uint64_t device, std::uint64_t inode)
@@ -53,7 +62,7 @@ bool sameItem(int descriptor, std::uint64_t device, std::uint64_t inode)
 
 class Walk {
 public:
-    explicit Walk(DirectoryWalker::Visitor& visitor) : visitor_(visitor) {}
+    explicit Walk(DirectoryWalker::Visitor& visitor) : visitor_(visitor), buffer_(listingBufferWords) {}
 
     ~Walk()
     {
@@ -69,70 +78,77 @@ public:
         struct stat status {};
         if (fstat(rootDescriptor, &status) != 0 || !S_ISDIR(status.st_mode))
             return false;
-        Frame root{rootDescriptor, static_cast<std::uint64_t>(status.st_dev),
-                   static_cast<std::uint64_t>(status.st_ino), {}, itemInfoFrom(status), {}, 0, 0};
-        if (!listNames(rootDescriptor, root.children))
-            return false;
-        stack_.push_back(std::move(root));
+        appendListing(rootDescriptor, names_, buffer_);
+        stack_.push_back({rootDescriptor, static_cast<std::uint64_t>(status.st_dev),
+                          static_cast<std::uint64_t>(status.st_ino), 0, 0, itemInfoFrom(status), 0, 0, 0});
         while (!stack_.empty()) {
+            // The top folder's listing is the last in the buffer: it runs to the end.
             Frame& top = stack_.back();
-            if (top.next == top.children.size()) {
+            if (top.next == names_.size()) {
                 if (!climb())
                     return false;
                 continue;
             }
-            if (!step(top, top.children[top.next++]))
+            const std::size_t start = top.next;
+            const std::size_t length = std::strlen(names_.data() + start);
+            top.next = start + length + 1;
+            if (!step(stack_.size() - 1, start, length))
                 return false;
         }
         return true;
     }
 
 private:
-    // Handles one entry of the folder on top of the stack; false ends the walk.
-    bool step(Frame& parent, const std::string& name)
+    // 32 KB, as a directory stream reads at a time.
+    static constexpr std::size_t listingBufferWords = 32768 / sizeof(std::uint64_t);
+
+    std::string_view nameAt(std::size_t start, std::size_t length) const { return {names_.data() + start, length}; }
+
+    // Handles the entry at `start` in the listing of the folder at `level`; false ends the walk.
+    bool step(std::size_t level, std::size_t start, std::size_t length)
     {
+        const Frame& parent = stack_[level];
         struct stat status {};
-        if (fstatat(parent.descriptor, name.c_str(), &status, AT_SYMLINK_NOFOLLOW) != 0)
+        if (fstatat(parent.descriptor, names_.c_str() + start, &status, AT_SYMLINK_NOFOLLOW) != 0)
             return true;  // vanished since the listing, or unreadable: nothing to count
         const ItemInfo info = itemInfoFrom(status);
-        const DirectoryWalker::Entry entry{parent.descriptor, name, info, parent.depth + 1};
-        const auto action = visitor_.visit(entry);
+        const auto action = visitor_.visit({parent.descriptor, nameAt(start, length), info, parent.depth + 1});
         if (action == DirectoryWalker::Action::stop)
             return false;
         if (action == DirectoryWalker::Action::descend && info.isFolder())
-            enter(parent, name, info);
+            enter(level, start, length, info);
         return true;
     }
 
-    void enter(Frame& parent, const std::string& name, const ItemInfo& info)
+    void enter(std::size_t level, std::size_t start, std::size_t length, const ItemInfo& info)
     {
-        const DirectoryWalker::Entry entry{parent.descriptor, name, info, parent.depth + 1};
-        const int descriptor = openat(parent.descriptor, name.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
+        const int parentDescriptor = stack_[level].descriptor;
+        const int depth = stack_[level].depth + 1;
+        const int descriptor =
+            openat(parentDescriptor, names_.c_str() + start, O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
         // The folder must still be the one just looked at, not something swapped in since.
         if (descriptor < 0 || !sameItem(descriptor, info.device, info.inode)) {
             if (descriptor >= 0)
                 close(descriptor);
-            visitor_.unreadable(entry);
+            visitor_.unreadable({parentDescriptor, nameAt(start, length), info, depth});
             return;
         }
-        Frame child{descriptor, info.device, info.inode, name, info, {}, 0, parent.depth + 1};
-        if (!listNames(descriptor, child.children)) {
-            close(descriptor);
-            visitor_.unreadable(entry);
-            return;
-        }
+        const std::size_t listingStart = names_.size();
+        appendListing(descriptor, names_, buffer_);
+        Frame& parent = stack_[level];
         if (parent.depth >= openDepthLimit && parent.descriptor != borrowed_) {
             close(parent.descriptor);
             parent.descriptor = -1;
         }
-        stack_.push_back(std::move(child));
+        stack_.push_back({descriptor, info.device, info.inode, start, length, info, listingStart, listingStart, depth});
     }
 
     // Leaves the finished folder on top of the stack for its parent.
     bool climb()
     {
-        Frame finished = std::move(stack_.back());
+        const Frame finished = stack_.back();
         stack_.pop_back();
+        names_.resize(finished.listingStart);
         if (stack_.empty())
             return true;  // the root: its descriptor belongs to the caller
         Frame& parent = stack_.back();
@@ -144,12 +160,15 @@ private:
             }
         }
         close(finished.descriptor);
-        visitor_.leave({parent.descriptor, finished.name, finished.info, finished.depth});
+        visitor_.leave({parent.descriptor, nameAt(finished.nameStart, finished.nameLength), finished.info,
+                        finished.depth});
         return true;
     }
 
     DirectoryWalker::Visitor& visitor_;
     std::vector<Frame> stack_;
+    std::string names_;                  // the listings of the open folders, outermost first
+    std::vector<std::uint64_t> buffer_;  // the kernel's records of one read, 8-byte aligned
     int borrowed_ = -1;
 };
 
