@@ -3,7 +3,10 @@
 #include "Models/RawValueLookup.h"
 
 #include <algorithm>
+#include <array>
+#include <cstdint>
 #include <initializer_list>
+#include <iterator>
 #include <string>
 
 namespace FileCategories {
@@ -11,17 +14,21 @@ namespace {
 
 // Names come from the disk, so only the ASCII letters of an extension are folded: every known
 // extension is plain ASCII.
+constexpr char lowercase(char c)
+{
+    return (c >= 'A' && c <= 'Z') ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
 std::string lowercased(std::string_view text)
 {
     std::string result(text);
-    for (char& c : result) {
-        if (c >= 'A' && c <= 'Z')
-            c = static_cast<char>(c - 'A' + 'a');
-    }
+    for (char& c : result)
+        c = lowercase(c);
     return result;
 }
 
-std::string pathExtension(std::string_view name)
+// The text after the last dot of the last component, as spelled.
+std::string_view pathExtension(std::string_view name)
 {
     while (name.size() > 1 && name.back() == '/')
         name.remove_suffix(1);
@@ -31,13 +38,74 @@ std::string pathExtension(std::string_view name)
     // A leading dot marks a hidden name, not an extension.
     if (dot == std::string_view::npos || dot == 0)
         return {};
-    return lowercased(component.substr(dot + 1));
+    return component.substr(dot + 1);
 }
 
 bool isAmong(const std::string& extension, std::initializer_list<std::string_view> list)
 {
     return std::find(list.begin(), list.end(), extension) != list.end();
 }
+
+// The disk map asks for the category of every file it meets, so files are looked up by number:
+// an extension of up to eight bytes, lowercased, packs into one integer, and the known ones sit
+// sorted in a table built at compile time. 0 stands for an empty or longer extension, which no
+// known one is.
+constexpr std::uint64_t packedExtension(std::string_view extension)
+{
+    if (extension.empty() || extension.size() > sizeof(std::uint64_t))
+        return 0;
+    std::uint64_t key = 0;
+    for (std::size_t i = 0; i < extension.size(); ++i)
+        key |= std::uint64_t{static_cast<unsigned char>(lowercase(extension[i]))} << (8 * i);
+    return key;
+}
+
+constexpr std::string_view videoExtensions[] = {"mov", "mp4", "m4v", "avi", "mkv", "webm",
+                                                "wmv", "flv", "mpg", "mpeg", "m2ts"};
+constexpr std::string_view imageExtensions[] = {"jpg", "jpeg", "png", "gif", "heic", "heif", "tiff", "tif", "bmp",
+                                                "raw", "cr2", "nef", "arw", "dng", "psd", "svg", "webp", "icns"};
+constexpr std::string_view audioExtensions[] = {"mp3", "aac", "wav", "flac", "m4a",
+                                                "aiff", "aif", "ogg", "alac", "caf"};
+constexpr std::string_view archiveExtensions[] = {"zip", "tar", "gz", "tgz", "bz2", "xz", "7z",
+                                                  "rar", "dmg", "pkg", "iso", "cpgz", "zst"};
+constexpr std::string_view codeExtensions[] = {"swift", "js", "ts",   "tsx",  "jsx", "py",  "rb",   "go",
+                                               "rs",    "c",  "h",    "cpp",  "hpp", "m",   "mm",   "java",
+                                               "kt",    "json", "xml", "yml", "yaml", "sh", "html", "css"};
+constexpr std::string_view documentExtensions[] = {"pdf", "doc", "docx", "xls", "xlsx", "ppt", "pptx", "txt",
+                                                   "md", "rtf", "pages", "numbers", "key", "epub", "csv"};
+constexpr std::string_view cacheExtensions[] = {"log", "tmp", "cache", "crash", "ips"};
+
+struct KnownExtension {
+    std::uint64_t key = 0;
+    FileCategory category = FileCategory::other;
+};
+
+constexpr auto knownExtensions = [] {
+    std::array<KnownExtension, std::size(videoExtensions) + std::size(imageExtensions) + std::size(audioExtensions) +
+                                   std::size(archiveExtensions) + std::size(codeExtensions) +
+                                   std::size(documentExtensions) + std::size(cacheExtensions)>
+        table{};
+    std::size_t next = 0;
+    const auto add = [&](const auto& extensions, FileCategory category) {
+        for (std::string_view extension : extensions)
+            table[next++] = {packedExtension(extension), category};
+    };
+    add(videoExtensions, FileCategory::video);
+    add(imageExtensions, FileCategory::images);
+    add(audioExtensions, FileCategory::audio);
+    add(archiveExtensions, FileCategory::archives);
+    add(codeExtensions, FileCategory::code);
+    add(documentExtensions, FileCategory::documents);
+    add(cacheExtensions, FileCategory::caches);
+    std::sort(table.begin(), table.end(), [](KnownExtension a, KnownExtension b) { return a.key < b.key; });
+    return table;
+}();
+
+static_assert(knownExtensions.front().key != 0, "every known extension is one to eight bytes long");
+static_assert(std::adjacent_find(knownExtensions.begin(), knownExtensions.end(),
+                                 [](KnownExtension a, KnownExtension b) { return a.key == b.key; }) ==
+                  knownExtensions.end(),
+              "an extension belongs to one category only");
 
 }  // namespace
 
@@ -97,34 +165,20 @@ FileCategoryColor color(FileCategory category)
 
 FileCategory forFile(std::string_view name)
 {
-    const std::string extension = pathExtension(name);
-    if (extension.empty())
+    const std::uint64_t key = packedExtension(pathExtension(name));
+    if (key == 0)
         return FileCategory::other;
-    // Checked in this order, the first match wins.
-    if (isAmong(extension, {"mov", "mp4", "m4v", "avi", "mkv", "webm", "wmv", "flv", "mpg", "mpeg", "m2ts"}))
-        return FileCategory::video;
-    if (isAmong(extension, {"jpg", "jpeg", "png", "gif", "heic", "heif", "tiff", "tif", "bmp", "raw", "cr2",
-                            "nef", "arw", "dng", "psd", "svg", "webp", "icns"}))
-        return FileCategory::images;
-    if (isAmong(extension, {"mp3", "aac", "wav", "flac", "m4a", "aiff", "aif", "ogg", "alac", "caf"}))
-        return FileCategory::audio;
-    if (isAmong(extension,
-                {"zip", "tar", "gz", "tgz", "bz2", "xz", "7z", "rar", "dmg", "pkg", "iso", "cpgz", "zst"}))
-        return FileCategory::archives;
-    if (isAmong(extension, {"swift", "js", "ts", "tsx", "jsx", "py", "rb", "go", "rs", "c", "h", "cpp",
-                            "hpp", "m", "mm", "java", "kt", "json", "xml", "yml", "yaml", "sh", "html", "css"}))
-        return FileCategory::code;
-    if (isAmong(extension, {"pdf", "doc", "docx", "xls", "xlsx", "ppt", "pptx", "txt", "md", "rtf", "pages",
-                            "numbers", "key", "epub", "csv"}))
-        return FileCategory::documents;
-    if (isAmong(extension, {"log", "tmp", "cache", "crash", "ips"}))
-        return FileCategory::caches;
-    return FileCategory::other;
+    const auto found = std::lower_bound(knownExtensions.begin(), knownExtensions.end(), key,
+                                        [](KnownExtension known, std::uint64_t wanted) { return known.key < wanted; });
+    return (found != knownExtensions.end() && found->key == key) ? found->category : FileCategory::other;
 }
 
 std::optional<FileCategory> bundle(std::string_view folderName)
 {
-    const std::string extension = pathExtension(folderName);
+    const std::string_view spelled = pathExtension(folderName);
+    if (spelled.empty())
+        return std::nullopt;
+    const std::string extension = lowercased(spelled);
     if (isAmong(extension, {"app", "bundle", "framework", "xpc", "appex", "plugin"}))
         return FileCategory::apps;
     if (isAmong(extension, {"photoslibrary", "photolibrary"}))

@@ -34,7 +34,8 @@ TEST(FileCategory, FilesAreSortedByExtensionWhateverTheCase)
 TEST(FileCategory, NamesWithoutAUsableExtensionAreOther)
 {
     for (const char* name : {"README", ".bashrc", ".cache", "notes.", "", "photos.d/README",
-                             "file.unknown", "Tool.app"})
+                             "file.unknown", "Tool.app", "clip.mp", "photo.jpgs", "photo.xjpg",
+                             "notes.markdown", "book.epubbook", "main.c\xc3\xa9"})
         EXPECT_EQ(forFile(name), FileCategory::other) << name;
 }
 
