@@ -13,13 +13,12 @@ struct DiskNode::Path::Text {
 
 namespace {
 
-enum Flag : std::uint8_t {
-    directoryFlag = 1,
-    syntheticFlag = 2,
-    modifiedFlag = 4,
-    separateNameFlag = 8,  // the name follows the tail instead of being the tail
-    wholeIdFlag = 16,      // the prefix is the whole id and the tail is empty
-};
+using Flag = DiskNode::Record::Flag;
+constexpr auto directoryFlag = Flag::directoryFlag;
+constexpr auto syntheticFlag = Flag::syntheticFlag;
+constexpr auto modifiedFlag = Flag::modifiedFlag;
+constexpr auto separateNameFlag = Flag::separateNameFlag;
+constexpr auto wholeIdFlag = Flag::wholeIdFlag;
 
 // File names are at most 255 bytes; longer text only reaches a record through the general
 // constructor, which moves it into the prefix instead.
@@ -218,38 +217,11 @@ std::string_view DiskNode::name() const
     return {textOf(data_), data_->tailLength};
 }
 
-std::int64_t DiskNode::size() const
-{
-    return data_ ? data_->size : 0;
-}
-
-bool DiskNode::isDirectory() const
-{
-    return data_ && (data_->flags & directoryFlag);
-}
-
-FileCategory DiskNode::category() const
-{
-    return data_ ? static_cast<FileCategory>(data_->category) : FileCategory::other;
-}
-
 std::optional<Clock::TimePoint> DiskNode::modified() const
 {
     if (!data_ || !(data_->flags & modifiedFlag))
         return std::nullopt;
     return Clock::TimePoint(Clock::TimePoint::duration(data_->modified));
-}
-
-bool DiskNode::isSynthetic() const
-{
-    return data_ && (data_->flags & syntheticFlag);
-}
-
-std::span<const DiskNode> DiskNode::children() const
-{
-    if (!data_)
-        return {};
-    return {childSlots(data_), data_->childCount};
 }
 
 DiskNode DiskNode::rebuilt(std::vector<DiskNode> children) const

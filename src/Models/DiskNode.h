@@ -113,10 +113,46 @@ struct DiskNode::Record {
     std::uint16_t nameLength = 0;        // a name stored apart from the tail; 0 when it is the tail
     std::uint8_t category = 0;
     std::uint8_t flags = 0;
+
+    enum Flag : std::uint8_t {
+        directoryFlag = 1,
+        syntheticFlag = 2,
+        modifiedFlag = 4,
+        separateNameFlag = 8,  // the name follows the tail instead of being the tail
+        wholeIdFlag = 16,      // the prefix is the whole id and the tail is empty
+    };
 };
 
 static_assert(sizeof(DiskNode) == 8, "a node handle is one pointer");
 static_assert(sizeof(DiskNode::Record) == 40, "40 bytes per node before its children and name");
+
+// The accessors that sorting, pruning and traversals call once per item are inline.
+inline std::int64_t DiskNode::size() const
+{
+    return data_ ? data_->size : 0;
+}
+
+inline bool DiskNode::isDirectory() const
+{
+    return data_ && (data_->flags & Record::directoryFlag);
+}
+
+inline FileCategory DiskNode::category() const
+{
+    return data_ ? static_cast<FileCategory>(data_->category) : FileCategory::other;
+}
+
+inline bool DiskNode::isSynthetic() const
+{
+    return data_ && (data_->flags & Record::syntheticFlag);
+}
+
+inline std::span<const DiskNode> DiskNode::children() const
+{
+    if (!data_)
+        return {};
+    return {reinterpret_cast<const DiskNode*>(data_ + 1), data_->childCount};
+}
 
 template <>
 struct std::hash<DiskNode> {
