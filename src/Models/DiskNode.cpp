@@ -1,6 +1,7 @@
 #include "Models/DiskNode.h"
 
 #include <algorithm>
+#include <array>
 #include <cstring>
 #include <new>
 #include <utility>
@@ -32,6 +33,18 @@ DiskNode::Path::Path(std::string_view text)
     text_ = new (memory) Text;
     text_->length = static_cast<std::uint32_t>(text.size());
     std::memcpy(reinterpret_cast<char*>(text_ + 1), text.data(), text.size());
+}
+
+DiskNode::Path::Path(std::string_view folder, std::string_view name)
+{
+    const std::size_t length = folder.size() + 1 + name.size();
+    void* memory = ::operator new(sizeof(Text) + length);
+    text_ = new (memory) Text;
+    text_->length = static_cast<std::uint32_t>(length);
+    char* bytes = reinterpret_cast<char*>(text_ + 1);
+    std::memcpy(bytes, folder.data(), folder.size());
+    bytes[folder.size()] = '/';
+    std::memcpy(bytes + folder.size() + 1, name.data(), name.size());
 }
 
 DiskNode::Path::Path(const Path& other) : text_(other.text_)
@@ -135,15 +148,25 @@ DiskNode DiskNode::makeEntry(const Path& folder, std::string_view name, std::int
 }
 
 DiskNode DiskNode::makeSynthetic(const Path& folder, std::string_view largestName, std::int64_t size,
-                                 std::vector<DiskNode>&& children)
+                                 std::span<DiskNode> children)
 {
-    std::string tail;
-    tail.reserve(largestName.size() + 6);
-    tail.append(largestName).append("#other");
+    // The id's tail is put together on the stack: a name is at most 255 bytes on every file
+    // system the walk reads, so the heap is only for names that came from elsewhere.
+    constexpr std::string_view suffix = "#other";
+    std::array<char, 512> local;
+    std::string longer;
+    std::string_view tail;
+    if (largestName.size() + suffix.size() <= local.size()) {
+        std::memcpy(local.data(), largestName.data(), largestName.size());
+        std::memcpy(local.data() + largestName.size(), suffix.data(), suffix.size());
+        tail = {local.data(), largestName.size() + suffix.size()};
+    } else {
+        longer.append(largestName).append(suffix);
+        tail = longer;
+    }
     DiskNode made = allocate(folder, tail, syntheticName, size, directoryFlag | syntheticFlag | separateNameFlag,
                              FileCategory::other, std::nullopt, children.size());
     std::move(children.begin(), children.end(), childSlots(made.data_));
-    children.clear();
     return made;
 }
 

@@ -30,6 +30,8 @@ public:
     public:
         Path() = default;
         explicit Path(std::string_view text);
+        // `folder` + "/" + `name`, built in place: the walk makes one per folder it enters.
+        Path(std::string_view folder, std::string_view name);
         Path(const Path& other);
         Path& operator=(const Path& other);
         ~Path();
@@ -55,8 +57,9 @@ public:
                               bool isDirectory, FileCategory category,
                               std::optional<Clock::TimePoint> modified, std::vector<DiskNode>&& children);
     // The "(smaller items)" node of `folder`; its id is `largestName`'s id followed by "#other".
+    // The children are moved out of `children`, which keeps its length.
     static DiskNode makeSynthetic(const Path& folder, std::string_view largestName, std::int64_t size,
-                                  std::vector<DiskNode>&& children);
+                                  std::span<DiskNode> children);
 
     DiskNode(const DiskNode& other) noexcept;
     DiskNode(DiskNode&& other) noexcept : data_(other.data_) { other.data_ = nullptr; }

@@ -9,6 +9,7 @@
 #include <chrono>
 #include <fcntl.h>
 #include <filesystem>
+#include <span>
 #include <unistd.h>
 #include <vector>
 
@@ -29,7 +30,7 @@ bool isHidden(std::string_view name)
     return !name.empty() && name.front() == '.';
 }
 
-FileCategory dominantCategory(const std::vector<DiskNode>& nodes)
+FileCategory dominantCategory(std::span<const DiskNode> nodes)
 {
     if (nodes.empty())
         return FileCategory::other;
@@ -40,44 +41,79 @@ FileCategory dominantCategory(const std::vector<DiskNode>& nodes)
     return static_cast<FileCategory>(largest - totals.begin());
 }
 
-// Splits a folder's entries, largest first, into those it shows and one node for the rest. The
-// small entries keep their subtrees below that node; only a folder of 0 bytes loses its entries.
+// Folders up to this many entries are sorted by insertion, which needs no buffer; most folders
+// are this small, and a general stable sort would allocate one for each of them.
+constexpr std::size_t insertionSortLimit = 32;
+
+// Largest first; entries of equal size keep their listing order.
+void sortLargestFirst(std::vector<DiskNode>& nodes)
+{
+    const auto larger = [](const DiskNode& a, const DiskNode& b) { return a.size() > b.size(); };
+    if (nodes.size() > insertionSortLimit) {
+        std::stable_sort(nodes.begin(), nodes.end(), larger);
+        return;
+    }
+    for (std::size_t i = 1; i < nodes.size(); ++i) {
+        if (!larger(nodes[i], nodes[i - 1]))
+            continue;
+        DiskNode moving = std::move(nodes[i]);
+        std::size_t j = i;
+        do {
+            nodes[j] = std::move(nodes[j - 1]);
+            --j;
+        } while (j > 0 && larger(moving, nodes[j - 1]));
+        nodes[j] = std::move(moving);
+    }
+}
+
+// Splits a folder's entries, largest first, into those it shows and one node for the rest, in
+// place, so the list keeps its storage. The small entries keep their subtrees below that node;
+// only a folder of 0 bytes loses its entries. As the entries run largest first, the ones shown
+// are a leading run: the count limit and the share threshold each cut off a tail.
+void foldSmallEntries(const DiskNode::Path& folder, std::vector<DiskNode>& sorted, std::int64_t parentTotal)
+{
+    if (parentTotal < 1) {
+        sorted.clear();
+        return;
+    }
+    const auto threshold = static_cast<std::int64_t>(static_cast<double>(parentTotal) * keptShare);
+    const std::size_t limit = std::min(sorted.size(), keptEntries);
+    std::size_t kept = 0;
+    while (kept < limit && sorted[kept].size() >= threshold)
+        ++kept;
+    std::int64_t smallTotal = 0;
+    for (std::size_t index = kept; index < sorted.size(); ++index)
+        smallTotal += sorted[index].size();
+    if (smallTotal < 1) {
+        sorted.resize(kept);
+        return;
+    }
+    // The largest entry is the first, whether it is kept or not; its record outlives the move.
+    DiskNode synthetic = DiskNode::makeSynthetic(folder, sorted.front().name(), smallTotal,
+                                                 std::span<DiskNode>(sorted).subspan(kept));
+    sorted.resize(kept);
+    sorted.push_back(std::move(synthetic));
+}
+
 }  // namespace
 
 std::vector<DiskNode> prune(const DiskNode::Path& folder, std::vector<DiskNode> sorted, std::int64_t parentTotal)
 {
-    if (parentTotal < 1)
-        return {};
-    const auto threshold = static_cast<std::int64_t>(static_cast<double>(parentTotal) * keptShare);
-    std::vector<DiskNode> kept;
-    std::vector<DiskNode> small;
-    std::int64_t smallTotal = 0;
-    kept.reserve(std::min(sorted.size(), keptEntries + 1));
-    for (std::size_t index = 0; index < sorted.size(); ++index) {
-        if (index >= keptEntries || sorted[index].size() < threshold) {
-            smallTotal += sorted[index].size();
-            small.push_back(std::move(sorted[index]));
-        } else {
-            kept.push_back(std::move(sorted[index]));
-        }
-    }
-    if (smallTotal < 1)
-        return kept;
-    const std::string largestName(kept.empty() ? small.front().name() : kept.front().name());
-    kept.push_back(DiskNode::makeSynthetic(folder, largestName, smallTotal, std::move(small)));
-    return kept;
+    foldSmallEntries(folder, sorted, parentTotal);
+    return sorted;
 }
 
 namespace {
 
-// A folder whose entries are all gathered (or as many as a cancelled walk reached).
+// A folder whose entries are all gathered (or as many as a cancelled walk reached). The entries
+// are moved into the node; `children` is left empty with its storage, for the next folder.
 DiskNode finishedFolder(const DiskNode::Path& parent, std::string_view name, Modified modified,
                         const DiskNode::Path& own, std::vector<DiskNode>& children, std::int64_t total)
 {
-    std::stable_sort(children.begin(), children.end(),
-                     [](const DiskNode& a, const DiskNode& b) { return a.size() > b.size(); });
+    sortLargestFirst(children);
     const FileCategory category = FileCategories::bundle(name).value_or(dominantCategory(children));
-    return DiskNode::makeEntry(parent, name, total, true, category, modified, prune(own, std::move(children), total));
+    foldSmallEntries(own, children, total);
+    return DiskNode::makeEntry(parent, name, total, true, category, modified, std::move(children));
 }
 
 // A folder that could not be listed, or was reached after cancellation: it adds nothing.
@@ -88,22 +124,26 @@ DiskNode emptyFolder(const DiskNode::Path& parent, std::string_view name)
 }
 
 struct OpenFolder {
-    DiskNode::Path own;  // this folder's path, without a trailing "/"; its children's prefix
-    std::string name;
+    DiskNode::Path own;         // this folder's path, without a trailing "/"; its children's prefix
+    std::size_t nameStart = 0;  // where its name begins in `own` (unused for the root)
     Modified modified;
     std::vector<DiskNode> children;
     std::int64_t total = 0;
+
+    std::string_view name() const { return own.view().substr(nameStart); }
 };
 
 // Builds the tree bottom-up as the walker goes: a folder becomes a node once its last entry is
-// in, and each node is moved into its parent's list, never copied.
+// in, and each node is moved into its parent's list, never copied. An open folder's slot
+// outlives it, so the next folder at the same depth reuses the storage of the last one's list
+// instead of growing its own from nothing.
 class TreeGatherer : public DirectoryWalker::Visitor {
 public:
     TreeGatherer(const std::string& rootPath, const CancelToken* token, const Progress& onProgress,
                  const ChildHandler& onChild)
         : token_(token), onProgress_(onProgress), onChild_(onChild)
     {
-        stack_.push_back({DiskNode::Path(rootPath == "/" ? std::string_view() : std::string_view(rootPath)), {}, {}, {}, 0});
+        open(DiskNode::Path(rootPath == "/" ? std::string_view() : std::string_view(rootPath)), 0, {});
     }
 
     DirectoryWalker::Action visit(const DirectoryWalker::Entry& entry) override
@@ -114,15 +154,12 @@ public:
             return DirectoryWalker::Action::skip;
         const ItemInfo& info = entry.info;
         if (info.isFolder()) {
-            const std::string_view parent = stack_.back().own.view();
-            std::string path;
-            path.reserve(parent.size() + 1 + entry.name.size());
-            path.append(parent).append(1, '/').append(entry.name);
-            stack_.push_back({DiskNode::Path(path), std::string(entry.name), info.modified, {}, 0});
+            const std::string_view parent = top().own.view();
+            open(DiskNode::Path(parent, entry.name), parent.size() + 1, info.modified);
             return DirectoryWalker::Action::descend;
         }
         bytesSeen_ += info.allocatedSize;
-        add(DiskNode::makeEntry(stack_.back().own, entry.name, info.allocatedSize, false, categoryOf(entry.name),
+        add(DiskNode::makeEntry(top().own, entry.name, info.allocatedSize, false, categoryOf(entry.name),
                                 info.modified, {}));
         return DirectoryWalker::Action::skip;
     }
@@ -131,23 +168,36 @@ public:
 
     void unreadable(const DirectoryWalker::Entry&) override
     {
-        OpenFolder folder = std::move(stack_.back());
-        stack_.pop_back();
-        add(emptyFolder(stack_.back().own, folder.name));
+        const OpenFolder& folder = top();
+        --depth_;
+        add(emptyFolder(top().own, folder.name()));
     }
 
     // After a complete walk only the root is open; after a cancelled one, the folders it was in
     // are closed with what they hold, each with its progress report, innermost first.
     OpenFolder& finish()
     {
-        while (stack_.size() > 1)
+        while (depth_ > 1)
             closeTop();
-        return stack_.front();
+        return top();
     }
 
     std::int64_t bytesSeen() const { return bytesSeen_; }
 
 private:
+    OpenFolder& top() { return slots_[depth_ - 1]; }
+
+    void open(const DiskNode::Path& own, std::size_t nameStart, Modified modified)
+    {
+        if (depth_ == slots_.size())
+            slots_.emplace_back();
+        OpenFolder& folder = slots_[depth_++];
+        folder.own = own;
+        folder.nameStart = nameStart;
+        folder.modified = modified;
+        folder.total = 0;
+    }
+
     // A file's category depends on its extension alone, and a folder's files mostly share one,
     // so the last answer is reused while the extension stays the same.
     FileCategory categoryOf(std::string_view name)
@@ -164,29 +214,33 @@ private:
 
     void closeTop()
     {
-        OpenFolder folder = std::move(stack_.back());
-        stack_.pop_back();
-        const auto now = std::chrono::steady_clock::now();
-        if (onProgress_ && (stack_.size() == 1 || now - lastProgress_ >= progressInterval)) {
-            lastProgress_ = now;
-            onProgress_(bytesSeen_);
+        OpenFolder& folder = top();
+        --depth_;
+        // The clock is only read for someone listening.
+        if (onProgress_) {
+            const auto now = std::chrono::steady_clock::now();
+            if (depth_ == 1 || now - lastProgress_ >= progressInterval) {
+                lastProgress_ = now;
+                onProgress_(bytesSeen_);
+            }
         }
-        add(finishedFolder(stack_.back().own, folder.name, folder.modified, folder.own, folder.children, folder.total));
+        add(finishedFolder(top().own, folder.name(), folder.modified, folder.own, folder.children, folder.total));
     }
 
     void add(DiskNode node)
     {
-        OpenFolder& parent = stack_.back();
+        OpenFolder& parent = top();
         parent.total += node.size();
         parent.children.push_back(std::move(node));
-        if (stack_.size() == 1 && onChild_)
+        if (depth_ == 1 && onChild_)
             onChild_(parent.children.back());
     }
 
     const CancelToken* token_;
     const Progress& onProgress_;
     const ChildHandler& onChild_;
-    std::vector<OpenFolder> stack_;
+    std::vector<OpenFolder> slots_;  // the first depth_ are the open folders, the root first
+    std::size_t depth_ = 0;
     std::int64_t bytesSeen_ = 0;
     std::chrono::steady_clock::time_point lastProgress_{};
     std::optional<std::string> cachedExtension_;

@@ -100,6 +100,21 @@ TEST_F(DiskMapScannerTest, FolderOfSixtyOneEqualFilesKeepsTheFirstSixtyListed)
     expectConsistent(root);
 }
 
+TEST_F(DiskMapScannerTest, SmallFolderRunsLargestFirstWithTiesInListingOrder)
+{
+    for (int i = 0; i < 6; ++i)
+        tempHome.writeFile("few/equal" + std::to_string(i) + ".txt", std::string(100, 'x'));
+    tempHome.writeFile("few/big.bin", std::string(100000, 'x'));
+    tempHome.writeFile("few/middle.bin", std::string(20000, 'x'));
+    std::vector<std::string> expected = {path("few/big.bin"), path("few/middle.bin")};
+    for (const std::string& id : listed(path("few"))) {
+        if (id.ends_with(".txt"))
+            expected.push_back(id);
+    }
+
+    EXPECT_EQ(idsOf(scan(path("few")).children()), expected);
+}
+
 TEST_F(DiskMapScannerTest, PruneFoldsByShareAndCount)
 {
     const DiskNode::Path folder("/f");
