@@ -16,6 +16,11 @@ std::optional<DiskColorMode> fromRawValue(std::string_view raw)
     return std::nullopt;
 }
 
+DiskColorMode fromRawValueOrType(std::string_view raw)
+{
+    return fromRawValue(raw).value_or(DiskColorMode::type);
+}
+
 std::string_view label(DiskColorMode mode)
 {
     return mode == DiskColorMode::age ? "Age" : "Type";

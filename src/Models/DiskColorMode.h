@@ -13,6 +13,8 @@ inline constexpr std::array<DiskColorMode, 2> all = {DiskColorMode::type, DiskCo
 
 std::string_view rawValue(DiskColorMode mode);
 std::optional<DiskColorMode> fromRawValue(std::string_view raw);
+// Views hand the mode over as text; anything unknown colours by type.
+DiskColorMode fromRawValueOrType(std::string_view raw);
 // The English label, which is also the key the views translate it by.
 std::string_view label(DiskColorMode mode);
 

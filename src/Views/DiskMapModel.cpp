@@ -188,8 +188,7 @@ QVariantList DiskMapModel::presentCategories() const
     for (FileCategory category : FileCategories::all) {
         if (!present[std::size_t(category)])
             continue;
-        const std::string label(FileCategories::label(category));
-        list.append(QVariantMap{{QStringLiteral("label"), QCoreApplication::translate("FileCategory", label.c_str())},
+        list.append(QVariantMap{{QStringLiteral("label"), DiskNodeText::categoryLabel(category)},
                                 {QStringLiteral("color"), toQColor(FileCategories::color(category))}});
     }
     return list;

@@ -33,7 +33,7 @@ QString DiskNodeListModel::colorModeText() const
 
 void DiskNodeListModel::setColorModeText(const QString& mode)
 {
-    const DiskColorMode chosen = DiskColorModes::fromRawValue(mode.toStdString()).value_or(DiskColorMode::type);
+    const DiskColorMode chosen = DiskColorModes::fromRawValueOrType(mode.toStdString());
     if (chosen == colorMode_)
         return;
     colorMode_ = chosen;

@@ -30,10 +30,15 @@ QString labelledName(const DiskNode& node)
     return node.isDirectory() ? name + QLatin1Char('/') : name;
 }
 
+QString categoryLabel(FileCategory category)
+{
+    const std::string label(FileCategories::label(category));
+    return QCoreApplication::translate("FileCategory", label.c_str());
+}
+
 QString categoryLabel(const DiskNode& node)
 {
-    const std::string label(FileCategories::label(node.category()));
-    return QCoreApplication::translate("FileCategory", label.c_str());
+    return categoryLabel(node.category());
 }
 
 QString kind(const DiskNode& node)

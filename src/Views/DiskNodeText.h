@@ -11,6 +11,7 @@ namespace DiskNodeText {
 // The name, with "/" after a folder's: how tiles, tooltips and rows label it.
 QString labelledName(const DiskNode& node);
 // The category's label in the user's language.
+QString categoryLabel(FileCategory category);
 QString categoryLabel(const DiskNode& node);
 // "folder" for a folder, else the category's label.
 QString kind(const DiskNode& node);

@@ -103,7 +103,7 @@ QString DiskTreemapCanvas::colorModeText() const
 
 void DiskTreemapCanvas::setColorModeText(const QString& mode)
 {
-    const DiskColorMode chosen = DiskColorModes::fromRawValue(mode.toStdString()).value_or(DiskColorMode::type);
+    const DiskColorMode chosen = DiskColorModes::fromRawValueOrType(mode.toStdString());
     if (chosen == colorMode_)
         return;
     colorMode_ = chosen;
