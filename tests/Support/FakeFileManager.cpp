@@ -9,17 +9,7 @@ const QString objectPath = QStringLiteral("/org/freedesktop/FileManager1");
 
 }  // namespace
 
-FakeFileManager::FakeFileManager(const QDBusConnection& bus) : bus_(bus)
-{
-    registered_ = bus_.registerObject(objectPath, this, QDBusConnection::ExportAllSlots) &&
-                  bus_.registerService(serviceName);
-}
-
-FakeFileManager::~FakeFileManager()
-{
-    bus_.unregisterService(serviceName);
-    bus_.unregisterObject(objectPath);
-}
+FakeFileManager::FakeFileManager(const QDBusConnection& bus) : registration_(bus, serviceName, objectPath, this) {}
 
 bool FakeFileManager::waitForRequests(qsizetype count) const
 {

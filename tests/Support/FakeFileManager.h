@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Support/BusRegistration.h"
+
 #include <QDBusConnection>
 #include <QList>
 #include <QObject>
@@ -20,9 +22,8 @@ public:
 
     // Registers on `bus`; `registered()` says whether the name could be taken.
     explicit FakeFileManager(const QDBusConnection& bus);
-    ~FakeFileManager() override;
 
-    bool registered() const { return registered_; }
+    bool registered() const { return registration_.registered(); }
     const QList<Request>& shown() const { return shown_; }
     // Runs the event loop until `count` requests have arrived, for at most five seconds.
     bool waitForRequests(qsizetype count) const;
@@ -31,7 +32,6 @@ public Q_SLOTS:
     void ShowItems(const QStringList& uris, const QString& startupId);
 
 private:
-    QDBusConnection bus_;
-    bool registered_ = false;
+    BusRegistration registration_;
     QList<Request> shown_;
 };

@@ -10,17 +10,7 @@ const QString objectPath = QStringLiteral("/org/freedesktop/Notifications");
 
 }  // namespace
 
-FakeNotificationServer::FakeNotificationServer(const QDBusConnection& bus) : bus_(bus)
-{
-    registered_ = bus_.registerObject(objectPath, this, QDBusConnection::ExportAllSlots) &&
-                  bus_.registerService(serviceName);
-}
-
-FakeNotificationServer::~FakeNotificationServer()
-{
-    bus_.unregisterService(serviceName);
-    bus_.unregisterObject(objectPath);
-}
+FakeNotificationServer::FakeNotificationServer(const QDBusConnection& bus) : registration_(bus, serviceName, objectPath, this) {}
 
 bool FakeNotificationServer::waitForNotifications(qsizetype count) const
 {
@@ -70,5 +60,5 @@ void FakeNotificationServer::emitSignal(const QString& name, const QList<QVarian
 {
     QDBusMessage signal = QDBusMessage::createSignal(objectPath, serviceName, name);
     signal.setArguments(arguments);
-    bus_.send(signal);
+    registration_.bus().send(signal);
 }

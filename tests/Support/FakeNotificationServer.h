@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Support/BusRegistration.h"
+
 #include <QDBusConnection>
 #include <QList>
 #include <QObject>
@@ -30,9 +32,8 @@ public:
 
     // Registers on `bus`; `registered()` says whether the name could be taken.
     explicit FakeNotificationServer(const QDBusConnection& bus);
-    ~FakeNotificationServer() override;
 
-    bool registered() const { return registered_; }
+    bool registered() const { return registration_.registered(); }
     const QList<Notification>& received() const { return received_; }
     // Runs the event loop until `count` notifications have arrived, for at most five seconds.
     bool waitForNotifications(qsizetype count) const;
@@ -52,8 +53,7 @@ public Q_SLOTS:
 private:
     void emitSignal(const QString& name, const QList<QVariant>& arguments);
 
-    QDBusConnection bus_;
-    bool registered_ = false;
+    BusRegistration registration_;
     uint lastId_ = 0;
     QSet<uint> open_;
     QList<Notification> received_;

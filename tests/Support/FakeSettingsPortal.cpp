@@ -59,18 +59,16 @@ private:
 
 FakeSettingsPortal::FakeSettingsPortal(const QDBusConnection& bus, const QHash<Key, QVariant>& settings,
                                        Answers answers)
-    : bus_(bus), settings_(std::make_unique<PortalSettings>(settings, answers))
+    : settings_(std::make_unique<PortalSettings>(settings, answers))
 {
     settings_->moveToThread(&thread_);
     thread_.start();
-    registered_ = bus_.registerObject(objectPath, settings_.get(), QDBusConnection::ExportAllSlots) &&
-                  bus_.registerService(serviceName);
+    registration_.emplace(bus, serviceName, objectPath, settings_.get());
 }
 
 FakeSettingsPortal::~FakeSettingsPortal()
 {
-    bus_.unregisterService(serviceName);
-    bus_.unregisterObject(objectPath);
+    registration_.reset();
     thread_.quit();
     thread_.wait();
 }
@@ -80,7 +78,7 @@ void FakeSettingsPortal::change(const QString& settingNamespace, const QString& 
     settings_->store({settingNamespace, key}, value);
     QDBusMessage signal = QDBusMessage::createSignal(objectPath, interfaceName, QStringLiteral("SettingChanged"));
     signal << settingNamespace << key << QVariant::fromValue(QDBusVariant(value));
-    bus_.send(signal);
+    registration_->bus().send(signal);
 }
 
 #include "FakeSettingsPortal.moc"

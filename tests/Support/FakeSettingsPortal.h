@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Support/BusRegistration.h"
+
 #include <QDBusConnection>
 #include <QHash>
 #include <QPair>
@@ -8,6 +10,7 @@
 #include <QVariant>
 
 #include <memory>
+#include <optional>
 
 class PortalSettings;
 
@@ -30,13 +33,12 @@ public:
     FakeSettingsPortal(const FakeSettingsPortal&) = delete;
     FakeSettingsPortal& operator=(const FakeSettingsPortal&) = delete;
 
-    bool registered() const { return registered_; }
+    bool registered() const { return registration_ && registration_->registered(); }
     // Stores the value and tells the bus, as the portal does when the user changes a setting.
     void change(const QString& settingNamespace, const QString& key, const QVariant& value);
 
 private:
-    QDBusConnection bus_;
     QThread thread_;
     std::unique_ptr<PortalSettings> settings_;
-    bool registered_ = false;
+    std::optional<BusRegistration> registration_;  // after the thread answering for it starts
 };
