@@ -76,20 +76,21 @@ QVariant DiskNodeListModel::data(const QModelIndex& index, int role) const
     if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
         return {};
     const DiskNode& node = rows_[std::size_t(index.row())];
-    const QString name = toQt(std::string(node.name()));
-    const QString size = toQt(ByteCountFormatter::string(node.size()));
+    // Each role is asked for on its own, many per row and frame; only what it needs is made.
+    const auto name = [&node] { return toQt(std::string(node.name())); };
+    const auto size = [&node] { return toQt(ByteCountFormatter::string(node.size())); };
     switch (role) {
     case IdRole: return toQt(node.id());
-    case NameRole: return name;
-    case SizeTextRole: return size;
+    case NameRole: return name();
+    case SizeTextRole: return size();
     case FractionRole: return fraction(node);
     case SwatchColorRole: return toQColor(DiskMapPalette::color(node, colorMode_, Clock::now()));
     case CanZoomRole: return node.isDirectory() && !node.children().empty();
     case IsSyntheticRole: return node.isSynthetic();
-    case HelpTextRole: return name + QStringLiteral(" — ") + size;
-    case AccessibleLabelRole: return name + QStringLiteral(", ") + DiskNodeText::kind(node);
+    case HelpTextRole: return name() + QStringLiteral(" — ") + size();
+    case AccessibleLabelRole: return name() + QStringLiteral(", ") + DiskNodeText::kind(node);
     case AccessibleValueRole:
-        return tr("%1, %2 percent").arg(size).arg(std::lround(fraction(node) * 100));
+        return tr("%1, %2 percent").arg(size()).arg(std::lround(fraction(node) * 100));
     default: return {};
     }
 }
