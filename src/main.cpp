@@ -1,4 +1,4 @@
-#include "MopwellApp.h"
+#include "Shell/MopwellApp.h"
 #include "Platform/Bundle.h"
 
 #include <QApplication>

@@ -5,7 +5,7 @@
 #include "Platform/NotificationCenter.h"
 #include "Services/Notifier.h"
 #include "StatusItem.h"
-#include "Views/Shell.h"
+#include "Views/Components/Shell.h"
 #include "WindowRegistry.h"
 
 #include <QCoreApplication>
@@ -14,7 +14,7 @@
 
 MopwellApp::Views MopwellApp::Views::application()
 {
-    return {QUrl(QStringLiteral("qrc:/Mopwell/Views/MenuPanelView.qml")), applicationWindows()};
+    return {QUrl(QStringLiteral("qrc:/Mopwell/Views/Panel/MenuPanelView.qml")), applicationWindows()};
 }
 
 MopwellApp::MopwellApp(QObject* parent) : MopwellApp(AppModel::shared(), Views::application(), parent) {}

@@ -1,4 +1,4 @@
-#include "MenuPanel.h"
+#include "Shell/MenuPanel.h"
 
 #include "Shell/ShellTestSupport.h"
 #include "Support/ModelFixture.h"

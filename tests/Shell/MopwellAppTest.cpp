@@ -1,12 +1,12 @@
-#include "MopwellApp.h"
+#include "Shell/MopwellApp.h"
 
-#include "MenuPanel.h"
+#include "Shell/MenuPanel.h"
 #include "Platform/NotificationCenter.h"
 #include "Services/Notifier.h"
 #include "Shell/ShellTestSupport.h"
 #include "Support/ModelFixture.h"
-#include "Views/Shell.h"
-#include "WindowRegistry.h"
+#include "Views/Components/Shell.h"
+#include "Shell/WindowRegistry.h"
 
 #include <QQmlComponent>
 #include <QQmlEngine>

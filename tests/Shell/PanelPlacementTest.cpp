@@ -1,4 +1,4 @@
-#include "PanelPlacement.h"
+#include "Shell/PanelPlacement.h"
 
 #include <gtest/gtest.h>
 

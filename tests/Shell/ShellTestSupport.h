@@ -2,7 +2,7 @@
 
 #include "Support/EventLoop.h"
 
-#include "WindowDefinition.h"
+#include "Shell/WindowDefinition.h"
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>

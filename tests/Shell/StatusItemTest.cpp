@@ -1,4 +1,4 @@
-#include "StatusItem.h"
+#include "Shell/StatusItem.h"
 
 #include "Support/AppModelTestAccess.h"
 #include "Support/ModelFixture.h"

@@ -1,4 +1,4 @@
-#include "WindowRegistry.h"
+#include "Shell/WindowRegistry.h"
 
 #include "Shell/ShellTestSupport.h"
 #include "Support/ModelFixture.h"
@@ -115,7 +115,7 @@ TEST_F(WindowRegistryTest, OnlyWindowsThatAreNotRecentredReopenWhereTheyWereLeft
 TEST_F(WindowRegistryTest, TheApplicationsConfirmationOpensWithItsTitleAndFixedSize)
 {
     WindowRegistry application(engine, *model, applicationWindows());
-    if (!QFile::exists(QStringLiteral(":/Mopwell/Views/ConfirmWindowView.qml")))
+    if (!QFile::exists(QStringLiteral(":/Mopwell/Views/Confirm/ConfirmWindowView.qml")))
         GTEST_SKIP() << "the confirmation view isn't built yet";
     model->requestCleanAll();
     QQuickWindow* confirm = application.open(QStringLiteral("confirm"));

@@ -2,7 +2,7 @@
 
 #include "Models/SimpleGroup.h"
 
-#include "LiveListModel.h"
+#include "Views/Components/LiveListModel.h"
 
 #include <QtQml/qqml.h>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "LiveListModel.h"
+#include "Views/Components/LiveListModel.h"
 
 #include <QtQml/qqml.h>
 

@@ -1,4 +1,4 @@
-#include "AccessibilitySettings.h"
+#include "Views/Components/AccessibilitySettings.h"
 #include "Platform/AccessibilityPreferences.h"
 #include "Support/FakeSettingsPortal.h"
 #include "Support/PrivateSessionBus.h"

@@ -1,4 +1,4 @@
-#include "Components/Icons.h"
+#include "Views/Components/Icons.h"
 #include "Models/BuildArtifactType.h"
 #include "Models/CleanupCatalog.h"
 #include "Models/ScanPreset.h"

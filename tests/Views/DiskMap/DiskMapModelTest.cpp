@@ -1,4 +1,4 @@
-#include "DiskMapModel.h"
+#include "Views/DiskMap/DiskMapModel.h"
 
 #include "Platform/DefaultsStore.h"
 #include "Platform/Trash.h"

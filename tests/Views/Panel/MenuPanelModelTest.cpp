@@ -1,4 +1,4 @@
-#include "MenuPanelModel.h"
+#include "Views/Panel/MenuPanelModel.h"
 
 #include <gtest/gtest.h>
 
