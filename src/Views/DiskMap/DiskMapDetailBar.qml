@@ -62,7 +62,7 @@ Item {
         Button {
             objectName: "revealButton"
             visible: bar.showsActions
-            text: qsTr("Reveal in Finder")
+            text: DesktopWords.revealInFileManager
             onClicked: bar.revealRequested()
         }
         Button {

@@ -39,7 +39,7 @@ Menu {
     }
     MenuItem {
         objectName: "menuReveal"
-        text: qsTr("Reveal in Finder")
+        text: DesktopWords.revealInFileManager
         visible: !menu.synthetic
         height: visible ? implicitHeight : 0
         onTriggered: WorkspaceActions.reveal(menu.node.id)
