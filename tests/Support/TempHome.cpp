@@ -8,7 +8,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-const char* const variables[] = {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME"};
+const char* const variables[] = {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_STATE_HOME"};
 
 void makeRemovable(const fs::path& root)
 {
@@ -38,7 +38,7 @@ TempHome::TempHome()
     }
     const std::map<std::string, std::string> values = {
         {"HOME", home_}, {"XDG_CONFIG_HOME", configHome()}, {"XDG_DATA_HOME", dataHome()},
-        {"XDG_CACHE_HOME", home_ + "/.cache"}};
+        {"XDG_CACHE_HOME", home_ + "/.cache"}, {"XDG_STATE_HOME", home_ + "/.local/state"}};
     for (const auto& [name, value] : values) {
         fs::create_directories(value);
         setenv(name.c_str(), value.c_str(), 1);
