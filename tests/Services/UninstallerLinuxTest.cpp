@@ -161,7 +161,7 @@ TEST_F(UninstallerLinux, KeysThatNameSharedFoldersOrClimbOutAreNotUsed)
     tempHome.makeFolder(".config/autostart");
     TreeBuilder::writeFile(H + "/.local/share/flatpak/repo/objects", 500);
     TreeBuilder::writeFile(H + "/Applications/tool", 100);
-    for (const std::string& key : {"applications", "icons", "autostart", "flatpak", "Trash", "..", "."}) {
+    for (const char* key : {"applications", "icons", "autostart", "flatpak", "Trash", "..", "."}) {
         AppInfo app;
         app.name = key;
         app.bundleID = key;
