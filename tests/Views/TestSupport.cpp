@@ -5,6 +5,7 @@
 #include "Platform/Trash.h"
 #include "Support/AppModelTestAccess.h"
 #include "Support/TempHome.h"
+#include "Support/ToolStubs.h"
 #include "Support/TreeBuilder.h"
 
 #include <QDir>
@@ -22,6 +23,7 @@ TestSupport::TestSupport() : tempHome_(std::make_unique<TempHome>()) {}
 TestSupport::~TestSupport()
 {
     models_.clear();
+    tools_.reset();
     Clock::setNowForTesting(std::nullopt);
 }
 
@@ -57,6 +59,41 @@ void TestSupport::setAgeInDays(const QString& relativePath, double days)
     utimensat(AT_FDCWD, path.c_str(), times, AT_SYMLINK_NOFOLLOW);
 }
 
+void TestSupport::writeText(const QString& relativePath, const QString& text)
+{
+    QString contents = text;
+    contents.replace(QStringLiteral("$HOME"), home());
+    tempHome_->writeFile(relativePath.toStdString(), contents.toStdString());
+}
+
+bool TestSupport::exists(const QString& relativePath) const
+{
+    return std::filesystem::exists(std::filesystem::symlink_status(tempHome_->home() + "/" + relativePath.toStdString()));
+}
+
+QString TestSupport::installTool(const QString& name, const QString& body)
+{
+    // Only from the first stub on: until then the login shell keeps the machine's search path.
+    if (!tools_)
+        tools_ = std::make_unique<ToolStubs>(tempHome_->root() + "/tools", tempHome_->home());
+    return QString::fromStdString(tools_->install(name.toStdString(), body.toStdString()));
+}
+
+QStringList TestSupport::toolCalls(const QString& name) const
+{
+    QStringList calls;
+    if (!tools_)
+        return calls;
+    for (const std::string& call : tools_->calls(name.toStdString()))
+        calls.append(QString::fromStdString(call));
+    return calls;
+}
+
+void TestSupport::clearTools()
+{
+    tools_.reset();
+}
+
 int TestSupport::countEntries(const QString& absoluteFolder) const
 {
     return static_cast<int>(QDir(absoluteFolder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot).size());
@@ -68,6 +105,14 @@ QStringList TestSupport::historyNames(AppModel* model) const
     for (const CleanRecord& record : model->history())
         names.append(QString::fromStdString(record.targetName));
     return names;
+}
+
+void TestSupport::restoreNewest(AppModel* model) const
+{
+    if (model->history().empty())
+        return;
+    const CleanRecord newest = model->history().front();  // restore() changes the list it lies in
+    model->restore(newest);
 }
 
 QString TestSupport::trashFolder() const

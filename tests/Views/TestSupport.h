@@ -10,6 +10,7 @@
 
 class AppModel;
 class TempHome;
+class ToolStubs;
 
 // What the view tests need from C++: a fresh model over a real defaults file in a temporary
 // home, files to show, a clock and disk figures they choose, and pictures of what they see.
@@ -26,6 +27,15 @@ public:
     // A new model; the previous ones stay alive until the tests end, as windows may hold them.
     Q_INVOKABLE AppModel* freshModel();
     Q_INVOKABLE void writeFile(const QString& relativePath, int bytes);
+    // A text file (a desktop entry, a script) below the home; "$HOME" in `text` becomes the home.
+    Q_INVOKABLE void writeText(const QString& relativePath, const QString& text);
+    Q_INVOKABLE bool exists(const QString& relativePath) const;
+    // Stand-ins for outside tools on the search path (see ToolStubs): installTool writes one with
+    // the shell `body` and returns its path, toolCalls gives its calls as "[arg1][arg2]…", and
+    // clearTools removes them all and gives the login shell its own search path back.
+    Q_INVOKABLE QString installTool(const QString& name, const QString& body);
+    Q_INVOKABLE QStringList toolCalls(const QString& name) const;
+    Q_INVOKABLE void clearTools();
     // Dates the item in the home as last changed `days` ago.
     Q_INVOKABLE void setAgeInDays(const QString& relativePath, double days);
     Q_INVOKABLE int countEntries(const QString& absoluteFolder) const;
@@ -39,11 +49,14 @@ public:
     Q_INVOKABLE void setScanning(AppModel* model, const QString& id);
     // The names of the model's history records, newest first.
     Q_INVOKABLE QStringList historyNames(AppModel* model) const;
+    // Puts the newest history record's items back, as the history's "Put Back" does.
+    Q_INVOKABLE void restoreNewest(AppModel* model) const;
 
     // Saves a picture of the item's window to screenshots/NAME.png in the build folder.
     Q_INVOKABLE bool saveScreenshot(QQuickItem* item, const QString& name) const;
 
 private:
     std::unique_ptr<TempHome> tempHome_;
+    std::unique_ptr<ToolStubs> tools_;
     std::vector<std::unique_ptr<AppModel>> models_;
 };

@@ -1,0 +1,152 @@
+import QtQuick
+import QtTest
+import Mopwell
+
+TestCase {
+    id: testCase
+    name: "UninstallerView"
+    when: windowShown
+
+    Component { id: windowComponent; UninstallerView {} }
+
+    // An AppImage in the home with its menu entry, settings and cache.
+    function seed() {
+        support.writeFile("Applications/PhotoTool.AppImage", 40000)
+        support.writeText(".local/share/applications/phototool.desktop",
+                          "[Desktop Entry]\nType=Application\nName=PhotoTool\n" +
+                          "Exec=$HOME/Applications/PhotoTool.AppImage %U\nStartupWMClass=phototool\n")
+        support.writeFile(".config/phototool/settings.ini", 3000)
+        support.writeFile(".cache/phototool/thumbs.db", 20000)
+    }
+
+    function open() {
+        const model = support.freshModel()
+        seed()
+        const window = createTemporaryObject(windowComponent, null, { model: model })
+        verify(window !== null)
+        window.show()
+        window.requestActivate()
+        tryCompare(window, "active", true)
+        return window
+    }
+
+    function child(parent, name) {
+        const item = findChild(parent, name)
+        verify(item !== null, "no item named " + name)
+        return item
+    }
+
+    function text(window, name) { return child(window.contentItem, name).text }
+
+    // Through the chooser, as a user picks the app.
+    function chooseFromList(window) {
+        mouseClick(child(window.contentItem, "chooseApp"))
+        tryCompare(window.appPicker, "opened", true)
+        const row = child(window.appPicker.contentItem, "app_PhotoTool")
+        waitForRendering(row)
+        mouseClick(row)
+        tryCompare(window.appPicker, "visible", false)
+        tryCompare(window.uninstaller, "hasApp", true)
+        tryCompare(window.uninstaller, "isScanning", false)
+        waitForRendering(window.contentItem)
+    }
+
+    function test_emptyWindowSaysWhatItDoesAndOffersTheChooser() {
+        const window = open()
+        compare(window.width, 460)
+        compare(window.height, 520)
+        compare(window.minimumWidth, window.maximumWidth)
+        compare(window.minimumHeight, window.maximumHeight)
+        compare(window.title, "Uninstall an App")
+        verify(child(window.contentItem, "emptyArea").visible)
+        verify(!child(window.contentItem, "appArea").visible)
+        compare(text(window, "toolHeaderTitle"), "Uninstall an App")
+        compare(text(window, "toolHeaderSubtitle"),
+                "Remove an app together with its leftover caches, preferences, and support files — all moved to the Trash, so you can undo it.")
+        compare(text(window, "chooseApp"), "Choose App…")
+        verify(!child(window.contentItem, "resultMessage").visible)
+        waitForRendering(window.contentItem)
+        support.saveScreenshot(window.contentItem, "uninstaller-empty")
+    }
+
+    function test_choosingAnAppListsItWithEverythingItLeftAllChosen() {
+        const window = open()
+        chooseFromList(window)
+        compare(text(window, "appName"), "PhotoTool")
+        compare(text(window, "appIdentifier"), "phototool")
+        compare(text(window, "foundCount"), "4 found")
+        compare(text(window, "selectedCount"), "4 selected")
+        compare(text(window, "selectAll"), "Deselect All")
+        const labels = window.uninstaller.items.map(item => item.label)
+        compare(labels, ["Application", "Menu entry", "Preferences", "App cache"])
+        compare(window.uninstaller.items[0].path, "~/Applications/PhotoTool.AppImage")
+        verify(child(window.contentItem, "moveToTrash").enabled)
+        support.saveScreenshot(window.contentItem, "uninstaller-app")
+
+        mouseClick(child(window.contentItem, "chooseDifferent"))
+        verify(child(window.contentItem, "emptyArea").visible)
+        compare(window.uninstaller.itemCount, 0)
+    }
+
+    function test_selectAllSwitchesBetweenEverythingAndNothing() {
+        const window = open()
+        chooseFromList(window)
+        mouseClick(child(window.contentItem, "selectAll"))
+        compare(text(window, "selectedCount"), "0 selected")
+        compare(text(window, "selectedSize"), "Zero KB")
+        compare(text(window, "selectAll"), "Select All")
+        verify(!child(window.contentItem, "moveToTrash").enabled)
+        mouseClick(child(window.contentItem, "selectAll"))
+        compare(text(window, "selectedCount"), "4 selected")
+    }
+
+    function test_movingTheChosenItemsToTheTrashRecordsThemAndTheyCanBePutBack() {
+        const window = open()
+        const model = window.model
+        chooseFromList(window)
+        const cacheRow = child(window.contentItem, "itemRow_App cache")
+        mouseClick(child(cacheRow, "itemBox"))
+        compare(text(window, "selectedCount"), "3 selected")
+        compare(text(window, "selectAll"), "Select All")
+
+        mouseClick(child(window.contentItem, "moveToTrash"))
+        tryCompare(window.uninstaller, "hasApp", false)
+        verify(child(window.contentItem, "emptyArea").visible)
+        const message = child(window.contentItem, "resultMessage")
+        verify(message.visible)
+        verify(/^Removed PhotoTool — freed .+\. Items are in the Trash\.$/.test(message.text), message.text)
+        verify(!support.exists("Applications/PhotoTool.AppImage"))
+        verify(!support.exists(".config/phototool"))
+        verify(support.exists(".cache/phototool/thumbs.db"))
+        compare(support.historyNames(model)[0], "Uninstalled PhotoTool")
+        waitForRendering(window.contentItem)
+        support.saveScreenshot(window.contentItem, "uninstaller-result")
+
+        support.restoreNewest(model)
+        verify(support.exists("Applications/PhotoTool.AppImage"))
+        verify(support.exists(".config/phototool/settings.ini"))
+        verify(support.exists(".local/share/applications/phototool.desktop"))
+        compare(model.statusMessage, "Restored Uninstalled PhotoTool")
+    }
+
+    function test_aResultGoesAfterItsTimeButNeverTakesANewerMessageWithIt() {
+        const window = open()
+        window.uninstaller.messageLifetime = 400
+        chooseFromList(window)
+        mouseClick(child(window.contentItem, "moveToTrash"))
+        tryVerify(() => text(window, "resultMessage").startsWith("Removed PhotoTool"))
+        // A refusal replaces the result before the result's time is up, and outlives it.
+        window.uninstaller.load("/usr/bin/env")
+        const refusal = text(window, "resultMessage")
+        verify(refusal.indexOf("software centre") >= 0, refusal)
+        wait(700)
+        compare(text(window, "resultMessage"), refusal)
+        verify(!window.uninstaller.hasApp)
+
+        seed()
+        chooseFromList(window)
+        mouseClick(child(window.contentItem, "moveToTrash"))
+        tryVerify(() => text(window, "resultMessage").startsWith("Removed PhotoTool"))
+        tryCompare(child(window.contentItem, "resultMessage"), "visible", false, 3000)
+    }
+}
