@@ -68,6 +68,7 @@ Popup {
                         Layout.preferredWidth: 28
                         Layout.preferredHeight: 28
                         Image {
+                            id: listedIcon
                             anchors.fill: parent
                             visible: status === Image.Ready
                             source: appRow.modelData.iconSource
@@ -78,7 +79,7 @@ Popup {
                         SymbolIcon {
                             anchors.fill: parent
                             anchors.margins: 3
-                            visible: appRow.modelData.iconSource.length === 0
+                            visible: !listedIcon.visible
                             symbol: "app.fill"
                             color: Theme.accent
                         }
@@ -87,6 +88,7 @@ Popup {
                         Layout.fillWidth: true
                         spacing: 1
                         Label {
+                            objectName: "listedName"
                             Layout.fillWidth: true
                             text: appRow.modelData.name
                             font.pixelSize: Theme.callout.pixelSize
@@ -95,6 +97,7 @@ Popup {
                             elide: Text.ElideRight
                         }
                         Label {
+                            objectName: "listedIdentifier"
                             Layout.fillWidth: true
                             visible: text.length > 0
                             text: appRow.modelData.identifier

@@ -17,6 +17,7 @@ RowLayout {
         Layout.preferredWidth: 52
         Layout.preferredHeight: 52
         Image {
+            id: appIcon
             objectName: "appIcon"
             anchors.fill: parent
             visible: status === Image.Ready
@@ -28,7 +29,7 @@ RowLayout {
         SymbolIcon {
             anchors.fill: parent
             anchors.margins: 4
-            visible: header.uninstaller.appIconSource.length === 0
+            visible: !appIcon.visible
             symbol: "app.fill"
             color: Theme.accent
         }

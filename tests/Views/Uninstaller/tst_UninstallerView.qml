@@ -9,14 +9,21 @@ TestCase {
 
     Component { id: windowComponent; UninstallerView {} }
 
-    // An AppImage in the home with its menu entry, settings and cache.
+    readonly property string icon: '<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 64 64">' +
+        '<rect x="4" y="4" width="56" height="56" rx="14" fill="#f28c28"/>' +
+        '<rect x="14" y="22" width="36" height="26" rx="5" fill="#fff"/>' +
+        '<circle cx="32" cy="35" r="9" fill="#f28c28"/><circle cx="32" cy="35" r="5" fill="#fff"/></svg>'
+
+    // An AppImage in the home with its menu entry, icon, settings, cache and tray helper.
     function seed() {
         support.writeFile("Applications/PhotoTool.AppImage", 40000)
         support.writeText(".local/share/applications/phototool.desktop",
-                          "[Desktop Entry]\nType=Application\nName=PhotoTool\n" +
+                          "[Desktop Entry]\nType=Application\nName=PhotoTool\nIcon=phototool\n" +
                           "Exec=$HOME/Applications/PhotoTool.AppImage %U\nStartupWMClass=phototool\n")
+        support.writeText(".local/share/icons/hicolor/scalable/apps/phototool.svg", icon)
         support.writeFile(".config/phototool/settings.ini", 3000)
         support.writeFile(".cache/phototool/thumbs.db", 20000)
+        support.writeText(".config/autostart/phototool-tray.desktop", "[Desktop Entry]\nType=Application\n")
     }
 
     function open() {
@@ -43,7 +50,10 @@ TestCase {
         mouseClick(child(window.contentItem, "chooseApp"))
         tryCompare(window.appPicker, "opened", true)
         const row = child(window.appPicker.contentItem, "app_PhotoTool")
-        waitForRendering(row)
+        compare(child(row, "listedName").text, "PhotoTool")
+        compare(child(row, "listedIdentifier").text, "phototool")
+        waitForRendering(window.contentItem)
+        support.saveScreenshot(window.contentItem, "uninstaller-choose")
         mouseClick(row)
         tryCompare(window.appPicker, "visible", false)
         tryCompare(window.uninstaller, "hasApp", true)
@@ -74,11 +84,12 @@ TestCase {
         chooseFromList(window)
         compare(text(window, "appName"), "PhotoTool")
         compare(text(window, "appIdentifier"), "phototool")
-        compare(text(window, "foundCount"), "4 found")
-        compare(text(window, "selectedCount"), "4 selected")
+        tryCompare(child(window.contentItem, "appIcon"), "status", Image.Ready)
+        compare(text(window, "foundCount"), "6 found")
+        compare(text(window, "selectedCount"), "6 selected")
         compare(text(window, "selectAll"), "Deselect All")
         const labels = window.uninstaller.items.map(item => item.label)
-        compare(labels, ["Application", "Menu entry", "Preferences", "App cache"])
+        compare(labels, ["Application", "Menu entry", "Preferences", "App cache", "Icon", "Launch agent"])
         compare(window.uninstaller.items[0].path, "~/Applications/PhotoTool.AppImage")
         verify(child(window.contentItem, "moveToTrash").enabled)
         support.saveScreenshot(window.contentItem, "uninstaller-app")
@@ -97,7 +108,7 @@ TestCase {
         compare(text(window, "selectAll"), "Select All")
         verify(!child(window.contentItem, "moveToTrash").enabled)
         mouseClick(child(window.contentItem, "selectAll"))
-        compare(text(window, "selectedCount"), "4 selected")
+        compare(text(window, "selectedCount"), "6 selected")
     }
 
     function test_movingTheChosenItemsToTheTrashRecordsThemAndTheyCanBePutBack() {
@@ -106,7 +117,7 @@ TestCase {
         chooseFromList(window)
         const cacheRow = child(window.contentItem, "itemRow_App cache")
         mouseClick(child(cacheRow, "itemBox"))
-        compare(text(window, "selectedCount"), "3 selected")
+        compare(text(window, "selectedCount"), "5 selected")
         compare(text(window, "selectAll"), "Select All")
 
         mouseClick(child(window.contentItem, "moveToTrash"))
