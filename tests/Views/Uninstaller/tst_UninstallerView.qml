@@ -8,6 +8,8 @@ TestCase {
     when: windowShown
 
     Component { id: windowComponent; UninstallerView {} }
+    Component { id: panelComponent; MenuPanelView {} }
+    SignalSpy { id: windowRequests; target: Shell; signalName: "windowRequested" }
 
     readonly property string icon: '<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 64 64">' +
         '<rect x="4" y="4" width="56" height="56" rx="14" fill="#f28c28"/>' +
@@ -59,6 +61,16 @@ TestCase {
         tryCompare(window.uninstaller, "hasApp", true)
         tryCompare(window.uninstaller, "isScanning", false)
         waitForRendering(window.contentItem)
+    }
+
+    function test_thePanelsUninstallToolOpensTheWindow() {
+        const panel = createTemporaryObject(panelComponent, null, { model: support.freshModel() })
+        panel.show()
+        waitForRendering(panel.contentItem)
+        windowRequests.clear()
+        mouseClick(child(panel.contentItem, "tool-xmark.bin"))
+        compare(windowRequests.count, 1)
+        compare(windowRequests.signalArguments[0][0], "uninstaller")
     }
 
     function test_emptyWindowSaysWhatItDoesAndOffersTheChooser() {
