@@ -21,6 +21,24 @@ bool isInside(const std::string& path, const std::string& folder)
     return folder.size() > 1 && path.starts_with(folder + "/");
 }
 
+// An absolute path with no "." or ".." among its components. Paths in desktop entries are
+// anyone's writing; one that climbs ("~/Applications/../") can't be trusted to mean what its
+// text seems to say, so it is never an app.
+bool isPlainAbsolute(const std::string& path)
+{
+    if (!path.starts_with("/"))
+        return false;
+    std::size_t start = 1;
+    while (start <= path.size()) {
+        const std::size_t end = std::min(path.find('/', start), path.size());
+        const std::string_view component(path.data() + start, end - start);
+        if (component == "." || component == "..")
+            return false;
+        start = end + 1;
+    }
+    return true;
+}
+
 // The path with the links of its folders resolved but the item itself kept: an item that is a
 // link is removed as the link.
 std::string resolvedParent(const std::string& path)
@@ -62,7 +80,9 @@ std::optional<std::string> programOf(const DesktopEntry& entry)
         program = *word;
     }
     if (!program->starts_with("/"))
-        return ExecutablePath::find(*program);
+        program = ExecutablePath::find(*program);
+    if (!program || !isPlainAbsolute(*program))
+        return std::nullopt;
     return program;
 }
 
@@ -222,7 +242,9 @@ std::vector<AppInfo> installed()
     };
     for (const std::string& folder : {applicationsFolder(), FlatpakUser::exportedApplicationsFolder()}) {
         for (const std::string& entryPath : desktopFilesIn(folder)) {
-            if (const auto entry = DesktopEntry::read(entryPath); entry && isShownApplication(*entry))
+            // An entry that starts nothing it can name is no app to list.
+            const auto entry = DesktopEntry::read(entryPath);
+            if (entry && isShownApplication(*entry) && (flatpakIdOf(*entry) || appPathOfEntry(*entry)))
                 note(appOfEntry(entryPath, *entry).appPath);
         }
     }
@@ -241,7 +263,7 @@ std::vector<AppInfo> installed()
 
 std::optional<Refusal> refusal(const std::string& path)
 {
-    if (!path.starts_with("/"))
+    if (!isPlainAbsolute(path))
         return Refusal::systemApp;
     const std::string home = Paths::resolvingSymlinks(Paths::home());
     const std::string resolved = resolvedParent(path);

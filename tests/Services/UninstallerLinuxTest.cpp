@@ -66,6 +66,7 @@ protected:
         entry("gone.desktop", "Name=Gone\nExec=" + H + "/Applications/Gone.AppImage\n");
         entry("hidden.desktop", "Name=Hidden\nExec=" + photoTool + "\nHidden=true\n");
         entry("link.desktop", "Name=Link\nExec=" + photoTool + "\nType=Link\n", false);
+        entry("climbing.desktop", "Name=Climbing\nExec=" + H + "/Applications/../.ssh/agent\n");
     }
 
     void entry(const std::string& file, const std::string& keys, bool application = true)
@@ -187,6 +188,8 @@ TEST_F(UninstallerLinux, RefusesWhatLiesOutsideTheHomeIsntTheUsersOrIsASharedFol
         {H + "/Applications/escape/elsewhere.AppImage", R::systemApp},
         {H + "/Applications/Foreign.AppImage", R::systemApp},
         {"relative/app", R::systemApp},
+        {H + "/Applications/..", R::systemApp},
+        {H + "/Applications/./Foreign.AppImage", R::systemApp},
         {H, R::sharedFolder},
         {H + "/.local", R::sharedFolder},
         {H + "/.config", R::sharedFolder},
