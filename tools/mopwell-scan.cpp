@@ -6,11 +6,17 @@
 //   mopwell-scan diskmap PATH [--json]
 //                                  the disk map's walk of PATH: bytes, items and time taken, or
 //                                  with --json the whole tree as the map holds it
+//   mopwell-scan dups PATH [--json] [--reference] [--stats]
+//                                  the duplicate scan's final result: the largest files, then
+//                                  the groups of copies (digest, size, paths in walk order);
+//                                  --reference hashes every candidate in full on one thread,
+//                                  --stats adds the stage timings and bytes hashed on stderr
 
 #include "Models/DiskNode.h"
 #include "Models/ProjectDir.h"
 #include "Services/CancelToken.h"
 #include "Services/DiskMapScanner.h"
+#include "Services/DuplicateScanner.h"
 #include "Services/ProjectScanner.h"
 #include "Services/Scanner.h"
 
@@ -20,6 +26,7 @@
 #include <cstdio>
 #include <cstring>
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -29,7 +36,8 @@ namespace {
 int usage()
 {
     std::fprintf(stderr, "usage: mopwell-scan size PATH\n       mopwell-scan projects ROOT...\n"
-                         "       mopwell-scan diskmap PATH [--json]\n");
+                         "       mopwell-scan diskmap PATH [--json]\n"
+                         "       mopwell-scan dups PATH [--json] [--reference] [--stats]\n");
     return 2;
 }
 
@@ -112,6 +120,88 @@ int printDiskMap(const std::string& path, bool asJson)
     return 0;
 }
 
+// A file name as the tools print it.
+std::string pathText(const std::string& path)
+{
+    return path;
+}
+
+nlohmann::ordered_json jsonOf(const FileScanResult& result)
+{
+    nlohmann::ordered_json largest = nlohmann::ordered_json::array();
+    for (const ScannedFile& file : result.largest)
+        largest.push_back({{"path", pathText(file.path)}, {"size", file.size}});
+    nlohmann::ordered_json groups = nlohmann::ordered_json::array();
+    for (const DuplicateGroup& group : result.duplicates) {
+        nlohmann::ordered_json paths = nlohmann::ordered_json::array();
+        for (const ScannedFile& file : group.files)
+            paths.push_back(pathText(file.path));
+        groups.push_back({{"id", group.id}, {"size", group.size}, {"paths", std::move(paths)}});
+    }
+    return {{"largest", std::move(largest)}, {"duplicates", std::move(groups)}};
+}
+
+void printText(const FileScanResult& result)
+{
+    std::printf("largest:\n");
+    for (const ScannedFile& file : result.largest)
+        std::printf("  %lld\t%s\n", static_cast<long long>(file.size), pathText(file.path).c_str());
+    std::printf("duplicates:\n");
+    for (const DuplicateGroup& group : result.duplicates) {
+        std::printf("  %s\t%lld\t%zu copies\n", group.id.c_str(), static_cast<long long>(group.size),
+                    group.files.size());
+        for (const ScannedFile& file : group.files)
+            std::printf("    %s\n", pathText(file.path).c_str());
+    }
+}
+
+int printDuplicates(const std::string& path, const std::vector<std::string>& flags)
+{
+    bool asJson = false, reference = false, stats = false;
+    for (const std::string& flag : flags) {
+        if (flag == "--json")
+            asJson = true;
+        else if (flag == "--reference")
+            reference = true;
+        else if (flag == "--stats")
+            stats = true;
+        else
+            return usage();
+    }
+    BucketHasher::Counters counters;
+    DuplicateScanner::Options options;
+    options.counters = &counters;
+    if (reference)
+        options.hashing = {.setAsideByEnds = false, .threads = 1};
+    using Clock = std::chrono::steady_clock;
+    const auto start = Clock::now();
+    std::optional<Clock::time_point> walked;
+    std::int64_t files = 0;
+    FileScanResult final;
+    DuplicateScanner::scan(
+        path, std::make_shared<CancelToken>(), [&files](std::int64_t count) { files = count; },
+        [&](const FileScanResult& result) {
+            if (!walked)
+                walked = Clock::now();
+            final = result;
+        },
+        options);
+    const auto end = Clock::now();
+    if (asJson)
+        std::printf("%s\n", jsonOf(final).dump(1, ' ', false, nlohmann::ordered_json::error_handler_t::replace).c_str());
+    else
+        printText(final);
+    if (stats) {
+        const std::chrono::duration<double> walk = walked.value_or(end) - start, hashing = end - walked.value_or(end);
+        std::fprintf(stderr, "files %lld\twalk %.3f s\thashing %.3f s\thashed %lld files, %lld bytes\tset aside %lld\n",
+                     static_cast<long long>(files), walk.count(), hashing.count(),
+                     static_cast<long long>(counters.filesHashed.load()),
+                     static_cast<long long>(counters.bytesHashed.load()),
+                     static_cast<long long>(counters.filesSetAside.load()));
+    }
+    return 0;
+}
+
 }  // namespace
 
 int main(int argc, char** argv)
@@ -123,6 +213,8 @@ int main(int argc, char** argv)
         return printSize(argv[2]);
     if (command == "diskmap" && (argc == 3 || (argc == 4 && std::strcmp(argv[3], "--json") == 0)))
         return printDiskMap(argv[2], argc == 4);
+    if (command == "dups")
+        return printDuplicates(argv[2], std::vector<std::string>(argv + 3, argv + argc));
     if (command == "projects")
         return printProjects(std::vector<std::string>(argv + 2, argv + argc));
     return usage();
