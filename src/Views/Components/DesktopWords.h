@@ -21,6 +21,9 @@ class DesktopWords : public QObject {
     Q_PROPERTY(QString revealInFileManager READ revealInFileManager CONSTANT)
     Q_PROPERTY(QString revealProjectInFileManager READ revealProjectInFileManager CONSTANT)
     Q_PROPERTY(QString openStartupSettings READ openStartupSettings CONSTANT)
+    Q_PROPERTY(QString startupItemsElsewhere READ startupItemsElsewhere CONSTANT)
+    Q_PROPERTY(QString snapshotsDescription READ snapshotsDescription CONSTANT)
+    Q_PROPERTY(QString snapshotsRemovedLater READ snapshotsRemovedLater CONSTANT)
 
 public:
     struct Words {
@@ -28,6 +31,12 @@ public:
         QString revealInFileManager;
         QString revealProjectInFileManager;
         QString openStartupSettings;
+        // The startup items the startup window leaves to the desktop's own settings.
+        QString startupItemsElsewhere;
+        // What local snapshots are, and what removing them does.
+        QString snapshotsDescription;
+        // A removal succeeded but the volume has not shown the space yet.
+        QString snapshotsRemovedLater;
     };
 
     // The words of `profile`, translated into the running language.
@@ -41,6 +50,9 @@ public:
     QString revealInFileManager() const { return current().revealInFileManager; }
     QString revealProjectInFileManager() const { return current().revealProjectInFileManager; }
     QString openStartupSettings() const { return current().openStartupSettings; }
+    QString startupItemsElsewhere() const { return current().startupItemsElsewhere; }
+    QString snapshotsDescription() const { return current().snapshotsDescription; }
+    QString snapshotsRemovedLater() const { return current().snapshotsRemovedLater; }
 
 private:
     explicit DesktopWords(QObject* parent = nullptr);
