@@ -4,6 +4,7 @@
 #include "Platform/PosixItemInfo.h"
 
 #include <cerrno>
+#include <cstdio>
 #include <dirent.h>
 #include <fcntl.h>
 #include <unistd.h>
@@ -107,6 +108,23 @@ bool removeItem(const std::string& path)
 bool moveItem(const std::string& from, const std::string& to)
 {
     return rename(from.c_str(), to.c_str()) == 0;
+}
+
+bool moveItemWithoutReplacing(const std::string& from, const std::string& to)
+{
+    if (renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0)
+        return true;
+    if (errno != EINVAL && errno != ENOSYS)
+        return false;
+    // File systems without the flag: a hard link can't be made over an existing name either.
+    // Only files take this way; a folder can't be linked.
+    if (link(from.c_str(), to.c_str()) != 0)
+        return false;
+    if (unlink(from.c_str()) != 0) {
+        unlink(to.c_str());
+        return false;
+    }
+    return true;
 }
 
 bool createFolders(const std::string& path)

@@ -27,6 +27,8 @@ bool removeItem(const std::string& path);
 
 // Renames within one volume; false across volumes or when `to` exists as a non-empty folder.
 bool moveItem(const std::string& from, const std::string& to);
+// The same, but false when anything at all is at `to`: nothing there is ever replaced.
+bool moveItemWithoutReplacing(const std::string& from, const std::string& to);
 
 // Creates the folder and any missing parents; true when a folder is there afterwards.
 bool createFolders(const std::string& path);

@@ -1,0 +1,137 @@
+#include "Services/LaunchAgentManager.h"
+
+#include "Platform/AtomicFile.h"
+#include "Platform/FileSystem.h"
+#include "Platform/Paths.h"
+#include "Platform/Subprocess.h"
+#include "Services/NameOrder.h"
+
+#include <plist/plist.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <limits>
+#include <memory>
+
+namespace LaunchAgentManager {
+namespace {
+
+constexpr std::string_view plistSuffix = ".plist";
+
+using PlistPointer = std::unique_ptr<std::remove_pointer_t<plist_t>, decltype(&plist_free)>;
+
+std::optional<std::string> stringValue(plist_t node)
+{
+    if (!node || plist_get_node_type(node) != PLIST_STRING)
+        return std::nullopt;
+    char* text = nullptr;
+    plist_get_string_val(node, &text);
+    if (!text)
+        return std::nullopt;
+    std::string value(text);
+    std::free(text);
+    return value;
+}
+
+std::optional<std::string> firstArgument(plist_t arguments)
+{
+    if (!arguments || plist_get_node_type(arguments) != PLIST_ARRAY || plist_array_get_size(arguments) == 0)
+        return std::nullopt;
+    for (uint32_t i = 0; i < plist_array_get_size(arguments); ++i) {
+        if (plist_get_node_type(plist_array_get_item(arguments, i)) != PLIST_STRING)
+            return std::nullopt;
+    }
+    return stringValue(plist_array_get_item(arguments, 0));
+}
+
+std::string withoutExtension(const std::string& name)
+{
+    const auto dot = name.rfind('.');
+    return dot == std::string::npos || dot == 0 ? name : name.substr(0, dot);
+}
+
+void launchctl(const Tools& tools, const char* subcommand, const std::string& path)
+{
+    Subprocess::Options options;
+    options.executable = tools.launchctl;
+    options.arguments = {subcommand, path};
+    Subprocess::run(options);
+}
+
+std::vector<StartupItem> plists(const std::string& folder, bool enabled)
+{
+    std::vector<StartupItem> items;
+    for (const std::string& name : FileSystem::contentsOfFolder(folder).value_or(std::vector<std::string>{})) {
+        if (name.size() < plistSuffix.size() || name.compare(name.size() - plistSuffix.size(), plistSuffix.size(), plistSuffix) != 0)
+            continue;
+        StartupItem item;
+        item.id = folder + "/" + name;
+        item.fileName = name;
+        item.enabled = enabled;
+        item.kind = StartupItem::Kind::launchAgent;
+        const auto file = AtomicFile::read(item.id);
+        const PlistSummary summary = file.readable ? parsePlist(file.contents) : PlistSummary{};
+        item.label = summary.label.value_or(withoutExtension(name));
+        item.program = summary.program.value_or("—");
+        items.push_back(std::move(item));
+    }
+    std::stable_sort(items.begin(), items.end(), [](const StartupItem& a, const StartupItem& b) {
+        return NameOrder::caseInsensitiveLess(a.label, b.label);
+    });
+    return items;
+}
+
+}  // namespace
+
+std::string liveFolder()
+{
+    return Paths::home() + "/Library/LaunchAgents";
+}
+
+std::string disabledFolder()
+{
+    return liveFolder() + "/Disabled";
+}
+
+std::vector<StartupItem> list()
+{
+    std::vector<StartupItem> items = plists(liveFolder(), true);
+    auto off = plists(disabledFolder(), false);
+    std::move(off.begin(), off.end(), std::back_inserter(items));
+    return items;
+}
+
+bool setEnabled(bool enabled, const StartupItem& item, const Tools& tools)
+{
+    const std::string folder = enabled ? liveFolder() : disabledFolder();
+    FileSystem::createFolders(folder);
+    const std::string target = folder + "/" + item.fileName;
+    if (target == item.id)
+        return true;
+    if (!enabled)
+        launchctl(tools, "unload", item.id);
+    if (!FileSystem::moveItemWithoutReplacing(item.id, target))
+        return false;
+    if (enabled)
+        launchctl(tools, "load", target);
+    return true;
+}
+
+PlistSummary parsePlist(std::string_view bytes)
+{
+    if (bytes.empty() || bytes.size() > std::numeric_limits<uint32_t>::max())
+        return {};
+    plist_t root = nullptr;
+    plist_from_memory(bytes.data(), static_cast<uint32_t>(bytes.size()), &root);
+    const PlistPointer owner(root, &plist_free);
+    if (!root || plist_get_node_type(root) != PLIST_DICT)
+        return {};
+    PlistSummary summary;
+    summary.label = stringValue(plist_dict_get_item(root, "Label"));
+    summary.program = stringValue(plist_dict_get_item(root, "Program"));
+    if (!summary.program)
+        summary.program = firstArgument(plist_dict_get_item(root, "ProgramArguments"));
+    return summary;
+}
+
+}  // namespace LaunchAgentManager
