@@ -4,10 +4,12 @@
 // Qt's and back.
 
 #include "Platform/Clock.h"
+#include "Platform/Utf8.h"
 
 #include <QDateTime>
 #include <QString>
 #include <QStringList>
+#include <QStringView>
 
 #include <optional>
 #include <string>
@@ -15,8 +17,51 @@
 
 namespace QtConversions {
 
-inline QString toQt(const std::string& text) { return QString::fromStdString(text); }
-inline std::string toStd(const QString& text) { return text.toStdString(); }
+// Engine strings are often file names, which are bytes. A byte that is not part of well-formed
+// UTF-8 becomes a lone low surrogate U+DC80..U+DCFF, which no decoded text contains, and toStd()
+// turns it back into the byte: a name travels through QML and back unchanged, so the file it
+// names is the one acted on. Such a character shows as a replacement mark.
+inline QString toQt(const std::string& text)
+{
+    if (Utf8::isValid(text))
+        return QString::fromStdString(text);
+    QString converted;
+    converted.reserve(static_cast<qsizetype>(text.size()));
+    const std::string_view bytes = text;
+    std::size_t runStart = 0;
+    std::size_t index = 0;
+    const auto flush = [&] {
+        converted += QString::fromUtf8(bytes.data() + runStart, static_cast<qsizetype>(index - runStart));
+    };
+    while (index < bytes.size()) {
+        if (const std::size_t length = Utf8::wellFormedLength(bytes.substr(index))) {
+            index += length;
+            continue;
+        }
+        flush();
+        converted += QChar(static_cast<char16_t>(0xDC00 + static_cast<unsigned char>(bytes[index])));
+        runStart = ++index;
+    }
+    flush();
+    return converted;
+}
+
+inline std::string toStd(const QString& text)
+{
+    std::string bytes;
+    qsizetype start = 0;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const char16_t unit = text.at(i).unicode();
+        const bool escapedByte = unit >= 0xDC80 && unit <= 0xDCFF && (i == 0 || !text.at(i - 1).isHighSurrogate());
+        if (!escapedByte)
+            continue;
+        bytes += QStringView(text).mid(start, i - start).toUtf8().toStdString();
+        bytes += static_cast<char>(unit - 0xDC00);
+        start = i + 1;
+    }
+    bytes += QStringView(text).mid(start).toUtf8().toStdString();
+    return bytes;
+}
 
 inline QStringList toQt(const std::vector<std::string>& texts)
 {

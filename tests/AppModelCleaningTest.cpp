@@ -225,3 +225,37 @@ TEST_F(AppModelCleaningTest, ExternalDeletionsJoinTheHistory)
     EXPECT_TRUE(reread.history.empty());
     EXPECT_EQ(reread.total, 12'000);  // clearing the list keeps the lifetime total
 }
+
+TEST_F(AppModelCleaningTest, AnOddNameSurvivesARestartAndIsPutBack)
+{
+    // A Latin-1 name from an old archive: ordinary on Linux, and not UTF-8.
+    const std::string folder = H + "/old archive";
+    const std::string odd = folder + "/caf\xe9 menu \xff.txt";
+    TreeBuilder::writeFile(odd, 8'000);
+    TreeBuilder::writeFile(folder + "/plain.txt", 4'000);
+    ASSERT_EQ(model->addCustomFolder(QString::fromStdString(folder)), std::nullopt);
+    const std::string id = "custom:" + folder;
+    QCoro::waitFor(model->scan(id));
+    model->requestClean(id);
+    model->confirmPending(false);
+    ASSERT_TRUE(waitUntil([&] { return !model->history().empty(); }));
+    ASSERT_FALSE(fs::exists(odd));
+    // Later saves are not held up by the odd record.
+    model->recordExternalDeletion("Disk Map", 1'000, {});
+
+    // The next start reads every record back, the odd path byte for byte.
+    model.reset();
+    store = std::make_shared<DefaultsStore>(defaultsPath());
+    model = std::make_unique<AppModel>(store);
+    ASSERT_EQ(model->history().size(), 2u);
+    const CleanRecord cleaned = model->history()[1];
+    ASSERT_TRUE(cleaned.items.has_value());
+    ASSERT_EQ(cleaned.items->size(), 2u);
+
+    model->restore(cleaned);
+    EXPECT_TRUE(fs::exists(odd));
+    EXPECT_TRUE(fs::exists(folder + "/plain.txt"));
+    EXPECT_EQ(model->history()[1].restored, true);
+    EXPECT_TRUE(trashInfoFiles().empty());
+    ASSERT_TRUE(waitUntil([&] { return !model->isScanning(); }));
+}

@@ -14,6 +14,7 @@
 
 #include "Models/DiskNode.h"
 #include "Models/ProjectDir.h"
+#include "Platform/Utf8.h"
 #include "Services/CancelToken.h"
 #include "Services/DiskMapScanner.h"
 #include "Services/DuplicateScanner.h"
@@ -60,8 +61,8 @@ nlohmann::ordered_json fieldsOf(const DiskNode& node)
     nlohmann::ordered_json modified = nullptr;
     if (const auto date = node.modified())
         modified = std::chrono::duration<double>(date->time_since_epoch()).count();
-    return {{"id", node.id()},
-            {"name", node.name()},
+    return {{"id", Utf8::escaped(node.id())},
+            {"name", Utf8::escaped(node.name())},
             {"size", node.size()},
             {"isDirectory", node.isDirectory()},
             {"category", FileCategories::rawValue(node.category())},
@@ -130,12 +131,12 @@ nlohmann::ordered_json jsonOf(const FileScanResult& result)
 {
     nlohmann::ordered_json largest = nlohmann::ordered_json::array();
     for (const ScannedFile& file : result.largest)
-        largest.push_back({{"path", pathText(file.path)}, {"size", file.size}});
+        largest.push_back({{"path", Utf8::escaped(file.path)}, {"size", file.size}});
     nlohmann::ordered_json groups = nlohmann::ordered_json::array();
     for (const DuplicateGroup& group : result.duplicates) {
         nlohmann::ordered_json paths = nlohmann::ordered_json::array();
         for (const ScannedFile& file : group.files)
-            paths.push_back(pathText(file.path));
+            paths.push_back(Utf8::escaped(file.path));
         groups.push_back({{"id", group.id}, {"size", group.size}, {"paths", std::move(paths)}});
     }
     return {{"largest", std::move(largest)}, {"duplicates", std::move(groups)}};
@@ -204,8 +205,23 @@ int printDuplicates(const std::string& path, const std::vector<std::string>& fla
 
 }  // namespace
 
+// File names are bytes and JSON is UTF-8: every name and path in the JSON the tool prints goes
+// through the same escape as the stored clean history, so a script gets every byte back.
+int help()
+{
+    std::printf("mopwell-scan drives Mopwell's engine from the command line.\n\n");
+    usage();
+    std::printf("\nNames in JSON output: file names are bytes, JSON strings are UTF-8. A byte that is\n"
+                "not part of well-formed UTF-8 is written as \\xhh (two lower-case hex digits) and a\n"
+                "backslash as \\\\; everything else as it is on disk. Undo the two to get the exact bytes\n"
+                "back (the clean history stores names the same way).\n");
+    return 0;
+}
+
 int main(int argc, char** argv)
 {
+    if (argc == 2 && (std::strcmp(argv[1], "--help") == 0 || std::strcmp(argv[1], "-h") == 0))
+        return help();
     if (argc < 3)
         return usage();
     const std::string command = argv[1];

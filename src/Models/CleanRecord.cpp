@@ -1,5 +1,7 @@
 #include "Models/CleanRecord.h"
 
+#include "Platform/Utf8.h"
+
 #include <nlohmann/json.hpp>
 
 #include <cmath>
@@ -70,7 +72,7 @@ std::optional<std::vector<TrashedItem>> itemsFromJson(const json& array)
         const json* trashPath = member(entry, "trashPath");
         if (!original || !trashPath || !original->is_string() || !trashPath->is_string())
             return std::nullopt;
-        items.push_back({original->get<std::string>(), trashPath->get<std::string>()});
+        items.push_back({Utf8::unescaped(original->get<std::string>()), Utf8::unescaped(trashPath->get<std::string>())});
     }
     return items;
 }
@@ -112,7 +114,7 @@ json CleanRecord::toJson() const
 {
     json object = {
         {"id", id.string()},
-        {"targetName", targetName},
+        {"targetName", Utf8::escaped(targetName)},
         {"freed", freed},
         {"date", secondsSinceReference(date)},
         {"trashed", trashed},
@@ -120,7 +122,7 @@ json CleanRecord::toJson() const
     if (items) {
         json array = json::array();
         for (const auto& item : *items)
-            array.push_back({{"original", item.original}, {"trashPath", item.trashPath}});
+            array.push_back({{"original", Utf8::escaped(item.original)}, {"trashPath", Utf8::escaped(item.trashPath)}});
         object["items"] = std::move(array);
     }
     if (restored)
@@ -150,7 +152,7 @@ std::optional<CleanRecord> CleanRecord::fromJson(const json& object)
 
     CleanRecord record;
     record.id = *uuid;
-    record.targetName = targetName->get<std::string>();
+    record.targetName = Utf8::unescaped(targetName->get<std::string>());
     record.freed = *bytes;
     record.date = *when;
     record.trashed = trashed->get<bool>();

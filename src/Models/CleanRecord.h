@@ -30,7 +30,8 @@ struct CleanRecord {
                             std::vector<TrashedItem> items = {});
 
     // The stored form: `date` as seconds since 2001-01-01 00:00:00 UTC; optional fields left out
-    // when absent.
+    // when absent. Names and paths are bytes, written with Utf8::escaped() so that one that is not
+    // UTF-8 comes back byte for byte and Put Back still finds its file.
     nlohmann::json toJson() const;
     // None when a required key is missing or any key has the wrong type. Dates come back rounded
     // to whole microseconds, which is all the stored number holds at present-day dates.

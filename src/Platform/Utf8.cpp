@@ -41,31 +41,106 @@ std::size_t sequenceLength(unsigned char lead)
     return 0;
 }
 
+int hexValue(char c)
+{
+    if (c >= '0' && c <= '9')
+        return c - '0';
+    if (c >= 'a' && c <= 'f')
+        return c - 'a' + 10;
+    if (c >= 'A' && c <= 'F')
+        return c - 'A' + 10;
+    return -1;
+}
+
 }  // namespace
+
+std::size_t wellFormedLength(std::string_view bytes)
+{
+    if (bytes.empty())
+        return 0;
+    const auto lead = static_cast<unsigned char>(bytes[0]);
+    const std::size_t length = sequenceLength(lead);
+    if (length == 0 || bytes.size() < length)
+        return 0;
+    if (length > 1) {
+        unsigned char low = 0;
+        unsigned char high = 0;
+        secondByteRange(lead, low, high);
+        const auto second = static_cast<unsigned char>(bytes[1]);
+        if (second < low || second > high)
+            return 0;
+        for (std::size_t offset = 2; offset < length; ++offset) {
+            if (!isContinuation(static_cast<unsigned char>(bytes[offset])))
+                return 0;
+        }
+    }
+    return length;
+}
 
 bool isValid(std::string_view bytes)
 {
     std::size_t index = 0;
     while (index < bytes.size()) {
-        const auto lead = static_cast<unsigned char>(bytes[index]);
-        const std::size_t length = sequenceLength(lead);
-        if (length == 0 || bytes.size() - index < length)
+        const std::size_t length = wellFormedLength(bytes.substr(index));
+        if (length == 0)
             return false;
-        if (length > 1) {
-            unsigned char low = 0;
-            unsigned char high = 0;
-            secondByteRange(lead, low, high);
-            const auto second = static_cast<unsigned char>(bytes[index + 1]);
-            if (second < low || second > high)
-                return false;
-            for (std::size_t offset = 2; offset < length; ++offset) {
-                if (!isContinuation(static_cast<unsigned char>(bytes[index + offset])))
-                    return false;
-            }
-        }
         index += length;
     }
     return true;
+}
+
+std::string escaped(std::string_view bytes)
+{
+    static constexpr char digits[] = "0123456789abcdef";
+    std::string text;
+    text.reserve(bytes.size());
+    std::size_t index = 0;
+    while (index < bytes.size()) {
+        if (bytes[index] == '\\') {
+            text += "\\\\";
+            ++index;
+            continue;
+        }
+        const std::size_t length = wellFormedLength(bytes.substr(index));
+        if (length == 0) {
+            const auto byte = static_cast<unsigned char>(bytes[index]);
+            text += "\\x";
+            text += digits[byte >> 4];
+            text += digits[byte & 0xF];
+            ++index;
+            continue;
+        }
+        text.append(bytes.substr(index, length));
+        index += length;
+    }
+    return text;
+}
+
+std::string unescaped(std::string_view text)
+{
+    std::string bytes;
+    bytes.reserve(text.size());
+    for (std::size_t index = 0; index < text.size(); ++index) {
+        if (text[index] != '\\' || index + 1 == text.size()) {
+            bytes += text[index];
+            continue;
+        }
+        if (text[index + 1] == '\\') {
+            bytes += '\\';
+            ++index;
+            continue;
+        }
+        const bool hexEscape = index + 3 < text.size() && text[index + 1] == 'x';
+        const int high = hexEscape ? hexValue(text[index + 2]) : -1;
+        const int low = high >= 0 ? hexValue(text[index + 3]) : -1;
+        if (low < 0) {
+            bytes += '\\';
+            continue;
+        }
+        bytes += static_cast<char>(high * 16 + low);
+        index += 3;
+    }
+    return bytes;
 }
 
 }  // namespace Utf8

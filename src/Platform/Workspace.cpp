@@ -18,9 +18,12 @@ const QString interfaceName = QStringLiteral("org.freedesktop.FileManager1");
 // moment, but past this the user has waited long enough and gets the folder instead.
 constexpr int showItemsTimeoutMilliseconds = 3000;
 
+// Built from the path's bytes, percent-encoded, so a name that is not UTF-8 still names its file
+// (a URL made from text would carry a replacement character instead).
 QUrl fileUrl(const std::string& path)
 {
-    return QUrl::fromLocalFile(QString::fromStdString(path));
+    const QByteArray bytes(path.data(), static_cast<qsizetype>(path.size()));
+    return QUrl::fromEncoded("file://" + bytes.toPercentEncoding("/"), QUrl::StrictMode);
 }
 
 bool openParentFolder(const std::string& path, const UrlOpener& openUrl)

@@ -40,7 +40,7 @@ std::optional<std::string> encode(const std::vector<CleanRecord>& records)
     try {
         return array.dump();
     } catch (const json::exception&) {
-        return std::nullopt;  // a name or path that is not valid UTF-8
+        return std::nullopt;  // records escape their names; this is only the library's last word
     }
 }
 

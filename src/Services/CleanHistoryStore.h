@@ -33,7 +33,7 @@ Loaded load(const DefaultsStore& defaults);
 // stored history is left as it was; the total is written all the same.
 void save(DefaultsStore& defaults, const std::vector<CleanRecord>& history, std::int64_t total);
 
-// The JSON text of `records`; none when a string in them is not valid UTF-8.
+// The JSON text of `records`. Names that are not UTF-8 are escaped, so this does not fail on them.
 std::optional<std::string> encode(const std::vector<CleanRecord>& records);
 // None when the text is not a JSON array or any element is not a well-formed record.
 std::optional<std::vector<CleanRecord>> decode(std::string_view text);

@@ -139,17 +139,21 @@ TEST_F(CleanHistoryStoreTest, TotalIsZeroUnlessNumericAndRealsKeepTheirIntegerPa
     EXPECT_TRUE(CleanHistoryStore::load(defaults).history.empty());
 }
 
-TEST_F(CleanHistoryStoreTest, AnUnencodableHistoryLeavesTheStoredOneAndStillWritesTheTotal)
+TEST_F(CleanHistoryStoreTest, NamesThatAreNotUtf8ComeBackByteForByte)
 {
-    const std::vector<CleanRecord> saved = {record(5, 0)};
-    CleanHistoryStore::save(defaults, saved, 5);
-
-    CleanRecord broken = record(6, 0);
-    broken.targetName = "bad \xc3\x28 name";  // not UTF-8
-    EXPECT_EQ(CleanHistoryStore::encode({broken}), std::nullopt);
-    CleanHistoryStore::save(defaults, {broken, saved.front()}, 11);
+    // Ordinary on Linux: a name from an old Latin-1 archive, a cut sequence, a backslash.
+    CleanRecord odd = record(6, 0);
+    odd.targetName = "caf\xe9 \xc3\x28 \\ name";
+    odd.items = std::vector<TrashedItem>{{"/home/u/caf\xe9/\xff\xfe.txt", "/home/u/.local/share/Trash/files/\xff\xfe.txt"}};
+    const std::vector<CleanRecord> saved = {odd, record(5, 0)};
+    CleanHistoryStore::save(defaults, saved, 11);
 
     const auto loaded = loadAfterRestart();
     EXPECT_EQ(loaded.history, saved);
     EXPECT_EQ(loaded.total, 11);
+
+    // Later saves go on working with the odd record among the newest.
+    const std::vector<CleanRecord> more = {record(7, 0), odd, record(5, 0)};
+    CleanHistoryStore::save(defaults, more, 18);
+    EXPECT_EQ(loadAfterRestart().history, more);
 }

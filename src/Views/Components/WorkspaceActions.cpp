@@ -1,15 +1,16 @@
 #include "WorkspaceActions.h"
 
 #include "Platform/Workspace.h"
+#include "QtConversions.h"
 
 WorkspaceActions::WorkspaceActions(QObject* parent) : QObject(parent) {}
 
 bool WorkspaceActions::open(const QString& path)
 {
-    return Workspace::open(path.toStdString());
+    return Workspace::open(QtConversions::toStd(path));
 }
 
 bool WorkspaceActions::reveal(const QString& path)
 {
-    return Workspace::reveal(path.toStdString());
+    return Workspace::reveal(QtConversions::toStd(path));
 }

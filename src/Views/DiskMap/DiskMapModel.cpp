@@ -26,6 +26,7 @@
 #include <utility>
 
 using QtConversions::toQt;
+using QtConversions::toStd;
 
 namespace {
 
@@ -240,7 +241,7 @@ QVariantList DiskMapModel::volumes()
 
 void DiskMapModel::scan(const QString& path)
 {
-    const std::string chosen = path.isEmpty() ? rootPath_ : path.toStdString();
+    const std::string chosen = path.isEmpty() ? rootPath_ : toStd(path);
     scanStarted_ = true;
     if (chosen != rootPath_) {
         rootPath_ = chosen;
@@ -506,13 +507,13 @@ std::optional<DiskNode> DiskMapModel::nodeWithId(const std::string& id) const
 
 bool DiskMapModel::canTrashNode(const QString& id) const
 {
-    const std::optional<DiskNode> node = nodeWithId(id.toStdString());
+    const std::optional<DiskNode> node = nodeWithId(toStd(id));
     return node && canTrash(*node);
 }
 
 void DiskMapModel::trashNode(const QString& id)
 {
-    if (const std::optional<DiskNode> node = nodeWithId(id.toStdString()))
+    if (const std::optional<DiskNode> node = nodeWithId(toStd(id)))
         trash(*node);
 }
 

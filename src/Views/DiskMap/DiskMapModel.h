@@ -2,6 +2,7 @@
 
 #include "Models/DiskNode.h"
 #include "Services/CancelToken.h"
+#include "QtConversions.h"
 
 #include <QObject>
 #include <QPointer>
@@ -77,7 +78,7 @@ public:
     bool isScanning() const { return isScanning_; }
     bool hasRoot() const { return root_.has_value(); }
     const std::string& rootPath() const { return rootPath_; }
-    QString rootPathText() const { return QString::fromStdString(rootPath_); }
+    QString rootPathText() const { return QtConversions::toQt(rootPath_); }
     qint64 scannedBytes() const { return scannedBytes_; }
     QString progressText() const;
 
