@@ -1,7 +1,9 @@
 #include "Platform/DefaultsStore.h"
 
 #include "Platform/AtomicFile.h"
+#include "Platform/FileLock.h"
 #include "Platform/Paths.h"
+#include "Platform/Utf8.h"
 
 #include <cctype>
 #include <cstdio>
@@ -16,13 +18,20 @@ constexpr std::chrono::seconds referenceDateOffset{978307200};
 
 plist_t asPlist(void* node) { return static_cast<plist_t>(node); }
 
+// The library cuts a string short at the first byte that is not UTF-8, and file names need not
+// be: strings go through the one escape for names, so a folder stored is the folder read back.
 std::string stringOf(plist_t node)
 {
     char* text = nullptr;
     plist_get_string_val(node, &text);
-    std::string value = text ? text : "";
+    std::string value = text ? Utf8::unescaped(text) : "";
     std::free(text);
     return value;
+}
+
+plist_t stringNode(const std::string& value)
+{
+    return plist_new_string(Utf8::escaped(value).c_str());
 }
 
 std::optional<std::vector<std::string>> stringsOf(plist_t array)
@@ -103,12 +112,12 @@ struct NodeMaker {
     plist_t operator()(double value) const { return plist_new_real(value); }
     plist_t operator()(bool value) const { return plist_new_bool(value ? 1 : 0); }
     plist_t operator()(std::int64_t value) const { return plist_new_uint(static_cast<uint64_t>(value)); }
-    plist_t operator()(const std::string& value) const { return plist_new_string(value.c_str()); }
+    plist_t operator()(const std::string& value) const { return stringNode(value); }
     plist_t operator()(const std::vector<std::string>& values) const
     {
         plist_t array = plist_new_array();
         for (const auto& value : values)
-            plist_array_append_item(array, plist_new_string(value.c_str()));
+            plist_array_append_item(array, stringNode(value));
         return array;
     }
     plist_t operator()(const DefaultsStore::Data& data) const
@@ -150,11 +159,14 @@ std::string timestamp()
 
 DefaultsStore::DefaultsStore(std::string path) : path_(std::move(path))
 {
-    load();
+    if (loadInto(root_) != Loaded::parsed)
+        root_ = plist_new_dict();
 }
 
 DefaultsStore::~DefaultsStore()
 {
+    for (auto& [key, node] : pending_)
+        plist_free(asPlist(node));
     plist_free(asPlist(root_));
 }
 
@@ -171,23 +183,23 @@ std::shared_ptr<DefaultsStore> DefaultsStore::standard()
     return store;
 }
 
-void DefaultsStore::load()
+DefaultsStore::Loaded DefaultsStore::loadInto(void*& root)
 {
     const auto file = AtomicFile::read(path_);
-    if (file.exists && !file.readable)
-        setAside("unreadable");
-    if (file.readable) {
-        plist_t parsed = nullptr;
-        if (!file.contents.empty())
-            plist_from_memory(file.contents.data(), static_cast<uint32_t>(file.contents.size()), &parsed);
-        if (parsed && plist_get_node_type(parsed) == PLIST_DICT) {
-            root_ = parsed;
-            return;
-        }
-        plist_free(parsed);
-        setAside("damaged");
+    if (!file.exists)
+        return Loaded::absent;
+    if (!file.readable)
+        return Loaded::unreadable;  // says nothing about the file itself: leave it be
+    plist_t parsed = nullptr;
+    if (!file.contents.empty())
+        plist_from_memory(file.contents.data(), static_cast<uint32_t>(file.contents.size()), &parsed);
+    if (parsed && plist_get_node_type(parsed) == PLIST_DICT) {
+        root = parsed;
+        return Loaded::parsed;
     }
-    root_ = plist_new_dict();
+    plist_free(parsed);
+    setAside("damaged");
+    return Loaded::damaged;
 }
 
 void DefaultsStore::setAside(const std::string& reason)
@@ -287,8 +299,7 @@ void DefaultsStore::set(const std::string& key, const Value& value)
     if (!node)
         return;
     std::lock_guard guard(lock_);
-    plist_dict_set_item(asPlist(root_), key.c_str(), node);
-    writeLocked();
+    change(key, node);
 }
 
 void DefaultsStore::remove(const std::string& key)
@@ -296,8 +307,7 @@ void DefaultsStore::remove(const std::string& key)
     std::lock_guard guard(lock_);
     if (!plist_dict_get_item(asPlist(root_), key.c_str()))
         return;
-    plist_dict_remove_item(asPlist(root_), key.c_str());
-    writeLocked();
+    change(key, nullptr);
 }
 
 bool DefaultsStore::lastWriteSucceeded() const
@@ -306,8 +316,44 @@ bool DefaultsStore::lastWriteSucceeded() const
     return lastWriteSucceeded_;
 }
 
+void DefaultsStore::change(const std::string& key, void* node)
+{
+    if (node)
+        plist_dict_set_item(asPlist(root_), key.c_str(), plist_copy(asPlist(node)));
+    else
+        plist_dict_remove_item(asPlist(root_), key.c_str());
+    // Only the latest change of a key is replayed.
+    std::erase_if(pending_, [&](const auto& entry) {
+        if (entry.first != key)
+            return false;
+        plist_free(asPlist(entry.second));
+        return true;
+    });
+    pending_.emplace_back(key, node);
+    writeLocked();
+}
+
 void DefaultsStore::writeLocked()
 {
+    // Held until the new file is in place, so no other writer reads between our read and rename.
+    const FileLock fileLock(path_ + ".lock");
+    void* fresh = nullptr;
+    const Loaded loaded = loadInto(fresh);
+    if (loaded == Loaded::unreadable) {
+        lastWriteSucceeded_ = false;  // never replace what we could not read
+        return;
+    }
+    if (loaded == Loaded::parsed) {
+        // The file as it is now, with this store's changes on top of it.
+        for (const auto& [key, node] : pending_) {
+            if (node)
+                plist_dict_set_item(asPlist(fresh), key.c_str(), plist_copy(asPlist(node)));
+            else
+                plist_dict_remove_item(asPlist(fresh), key.c_str());
+        }
+        plist_free(asPlist(root_));
+        root_ = fresh;
+    }
     // Binary, not XML: this library's XML dates drop the fraction of a second, and schedules
     // compare stored dates with the clock.
     char* bytes = nullptr;
@@ -315,4 +361,9 @@ void DefaultsStore::writeLocked()
     plist_to_bin(asPlist(root_), &bytes, &length);
     lastWriteSucceeded_ = bytes && AtomicFile::replace(path_, std::string_view(bytes, length));
     plist_to_bin_free(bytes);
+    if (lastWriteSucceeded_) {
+        for (auto& [key, node] : pending_)
+            plist_free(asPlist(node));
+        pending_.clear();
+    }
 }

@@ -10,9 +10,16 @@
 #include <variant>
 #include <vector>
 
-// The user's persisted preferences: typed values by key in one property-list file, read once and
-// rewritten whole, atomically, at every change. Reads report the stored type, so a caller can
-// tell "missing" from "present but of another type".
+// The user's persisted preferences: typed values by key in one property-list file, rewritten
+// whole, atomically, at every change. Reads report the stored type, so a caller can tell
+// "missing" from "present but of another type".
+//
+// Strings are kept byte for byte, also where they are not UTF-8 (file names): they are stored
+// with Utf8::escaped().
+//
+// Another process may write the same file (a second copy started by hand, a settings tool).
+// Each write therefore takes an advisory lock beside the file, reads the file again and applies
+// this store's own changes on top, so two writers merge keys instead of dropping each other's.
 class DefaultsStore {
 public:
     using Data = std::vector<std::uint8_t>;
@@ -23,8 +30,10 @@ public:
     using Value = std::variant<double, bool, std::int64_t, std::string, std::vector<std::string>, Data,
                                Clock::TimePoint, Other>;
 
-    // Opens the store kept at `path`. A file that can't be read or parsed is moved aside, never
-    // deleted, and the store starts empty.
+    // Opens the store kept at `path`. A file that was read but can't be parsed is moved aside,
+    // never deleted, and the store starts empty. A file that can't be read at all (permissions,
+    // too many open files, an I/O error) is left alone: the store starts empty in memory, and
+    // each write tries to read it again first and writes nothing while it can't.
     explicit DefaultsStore(std::string path);
     ~DefaultsStore();
     DefaultsStore(const DefaultsStore&) = delete;
@@ -36,7 +45,7 @@ public:
     static std::shared_ptr<DefaultsStore> standard();
 
     const std::string& path() const { return path_; }
-    // Where a damaged file found at opening was moved, if one was.
+    // Where a damaged file was moved, if one was.
     const std::optional<std::string>& setAsidePath() const { return setAsidePath_; }
 
     bool contains(const std::string& key) const;
@@ -55,17 +64,24 @@ public:
     void set(const std::string& key, const Value& value);
     void remove(const std::string& key);
 
-    // False when the last write could not replace the file; the value is still held in memory.
+    // False when the last write could not replace the file (or did not try, the file being
+    // unreadable); the value is still held in memory and goes out with the next write.
     bool lastWriteSucceeded() const;
 
 private:
-    void load();
+    enum class Loaded { absent, unreadable, parsed, damaged };
+
+    Loaded loadInto(void*& root);
     void setAside(const std::string& reason);
+    // Records the change of `key` (a node, or null for a removal) and writes.
+    void change(const std::string& key, void* node);
     void writeLocked();
 
     std::string path_;
     std::optional<std::string> setAsidePath_;
     mutable std::mutex lock_;
     void* root_ = nullptr;  // the property-list dictionary, owned
+    // This store's changes not yet in the file: a value node (owned), or null for a removal.
+    std::vector<std::pair<std::string, void*>> pending_;
     bool lastWriteSucceeded_ = true;
 };

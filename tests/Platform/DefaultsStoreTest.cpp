@@ -1,9 +1,12 @@
 #include "Platform/DefaultsStore.h"
+#include "Support/DroppedCapabilities.h"
 #include "Support/TempHome.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <plist/plist.h>
+#include <sys/stat.h>
 
 namespace fs = std::filesystem;
 
@@ -68,8 +71,9 @@ TEST_F(TempHomeTest, EveryTypeSurvivesAReopenWithItsTypeIntact)
     EXPECT_EQ(store.stringArray("text"), std::nullopt);
     EXPECT_EQ(store.date("real"), std::nullopt);
 
-    // Writes leave exactly the one file behind: no temporary files.
-    EXPECT_EQ(filesIn(tempHome.configHome() + "/mopwell"), std::vector<std::string>{"defaults.plist"});
+    // Writes leave the file and the lock writers share behind: no temporary files.
+    EXPECT_EQ(filesIn(tempHome.configHome() + "/mopwell"),
+              (std::vector<std::string>{"defaults.plist", "defaults.plist.lock"}));
 }
 
 TEST_F(TempHomeTest, LenientBooleanReadsFollowTheStoredValue)
@@ -134,19 +138,101 @@ TEST_F(TempHomeTest, ADamagedFileIsSetAsideAndTheStoreStartsEmpty)
     EXPECT_EQ(DefaultsStore(path).setAsidePath(), std::nullopt);
 }
 
-TEST_F(TempHomeTest, AFileThatIsNotADictionaryOrCannotBeReadIsSetAside)
+TEST_F(TempHomeTest, AFileThatIsNotADictionaryIsSetAside)
 {
     const std::string arrayPath = tempHome.root() + "/array.plist";
     std::ofstream(arrayPath) << R"(<plist version="1.0"><array><string>x</string></array></plist>)";
     EXPECT_TRUE(DefaultsStore(arrayPath).setAsidePath().has_value());
+}
 
-    // A folder where the file should be: it exists but can't be read as a file.
+TEST_F(TempHomeTest, AFileThatCannotBeOpenedIsLeftAloneAndTriedAgainAtTheNextWrite)
+{
+    // A permission slip, too many open files or an I/O error say nothing about the file: it
+    // stays where it is, the values held in memory are used, and each write tries again.
+    const std::string path = tempHome.root() + "/defaults.plist";
+    {
+        DefaultsStore original(path);
+        original.set("refreshInterval", 9.0);
+        original.set("developerMode", true);
+    }
+    const auto size = fs::file_size(path);
+    const auto movedAside = [&] {
+        const auto names = filesIn(tempHome.root());
+        return std::any_of(names.begin(), names.end(), [](const std::string& name) {
+            return name.find("unreadable") != std::string::npos || name.find("damaged") != std::string::npos;
+        });
+    };
+    chmod(path.c_str(), 0);
+    {
+        DroppedCapabilities dropped;
+        MOPWELL_REQUIRE_ENFORCED_PERMISSIONS(dropped);
+        DefaultsStore store(path);
+        EXPECT_EQ(store.setAsidePath(), std::nullopt);
+        EXPECT_FALSE(store.contains("refreshInterval"));
+        store.set("moveToTrash", false);
+        EXPECT_FALSE(store.lastWriteSucceeded());
+        EXPECT_EQ(store.boolean("moveToTrash"), false);  // kept in memory
+        EXPECT_FALSE(movedAside());
+        EXPECT_EQ(fs::file_size(path), size);  // the user's file, untouched
+
+        // Readable again: the next write reads the user's values back in and keeps them.
+        chmod(path.c_str(), 0600);
+        store.set("sortBySize", true);
+        EXPECT_TRUE(store.lastWriteSucceeded());
+    }
+    chmod(path.c_str(), 0600);
+    DefaultsStore reopened(path);
+    EXPECT_EQ(reopened.number("refreshInterval"), 9.0);
+    EXPECT_EQ(reopened.boolean("developerMode"), true);
+    EXPECT_EQ(reopened.boolean("moveToTrash"), false);
+    EXPECT_EQ(reopened.boolean("sortBySize"), true);
+
+    // A folder where the file should be can't be read as a file either; it is not moved.
     const std::string folderPath = tempHome.root() + "/folder.plist";
     fs::create_directory(folderPath);
     DefaultsStore store(folderPath);
-    ASSERT_TRUE(store.setAsidePath().has_value());
-    EXPECT_TRUE(fs::is_directory(*store.setAsidePath()));
+    EXPECT_EQ(store.setAsidePath(), std::nullopt);
     store.set("k", true);
-    EXPECT_TRUE(store.lastWriteSucceeded());
-    EXPECT_EQ(DefaultsStore(folderPath).boolean("k"), true);
+    EXPECT_FALSE(store.lastWriteSucceeded());
+    EXPECT_TRUE(fs::is_directory(folderPath));
+    EXPECT_EQ(store.boolean("k"), true);
+    EXPECT_FALSE(movedAside());
+}
+
+TEST_F(TempHomeTest, TwoWritersMergeTheirKeys)
+{
+    // Two stores over one file, as two processes would hold it: each write reads the file again
+    // under a lock, so neither drops the other's keys.
+    const std::string path = tempHome.root() + "/defaults.plist";
+    DefaultsStore first(path);
+    DefaultsStore second(path);
+    first.set("refreshInterval", 3.0);
+    second.set("developerMode", true);
+    first.set("moveToTrash", false);
+    second.remove("refreshInterval");
+    first.set("sortBySize", true);
+
+    DefaultsStore reopened(path);
+    EXPECT_FALSE(reopened.contains("refreshInterval"));  // a removal isn't undone by the other
+    EXPECT_EQ(reopened.boolean("developerMode"), true);
+    EXPECT_EQ(reopened.boolean("moveToTrash"), false);
+    EXPECT_EQ(reopened.boolean("sortBySize"), true);
+    EXPECT_EQ(first.boolean("developerMode"), true);  // what the other wrote is seen at the next write
+}
+
+TEST_F(TempHomeTest, StringsThatAreNotUtf8AreKeptByteForByte)
+{
+    // A custom folder or a disk-map root with a Latin-1 name: cut short, it would name another
+    // folder.
+    const std::string path = tempHome.root() + "/defaults.plist";
+    const std::string folder = "/home/u/caf\xe9 \xff";
+    const std::vector<std::string> folders = {folder, "/home/u/back\\slash", "/home/u/\\x41"};
+    {
+        DefaultsStore store(path);
+        store.set("diskMapRoot", folder);
+        store.set("customFolders", folders);
+    }
+    DefaultsStore reopened(path);
+    EXPECT_EQ(reopened.string("diskMapRoot"), folder);
+    EXPECT_EQ(reopened.stringArray("customFolders"), folders);
 }
