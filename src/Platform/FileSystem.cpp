@@ -91,18 +91,23 @@ std::optional<std::vector<std::string>> contentsOfFolder(const std::string& path
 
 bool removeItem(const std::string& path)
 {
+    return removeItemAt(AT_FDCWD, path);
+}
+
+bool removeItemAt(int folderDescriptor, const std::string& name)
+{
     struct stat status {};
-    if (lstat(path.c_str(), &status) != 0)
+    if (fstatat(folderDescriptor, name.c_str(), &status, AT_SYMLINK_NOFOLLOW) != 0)
         return errno == ENOENT;
     if (!S_ISDIR(status.st_mode))
-        return unlink(path.c_str()) == 0 || errno == ENOENT;
-    const int descriptor = open(path.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
+        return unlinkat(folderDescriptor, name.c_str(), 0) == 0 || errno == ENOENT;
+    const int descriptor = openat(folderDescriptor, name.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
     if (descriptor >= 0) {
         TreeRemover remover;
         DirectoryWalker::walkDescriptor(descriptor, remover);
         close(descriptor);
     }
-    return rmdir(path.c_str()) == 0 || errno == ENOENT;
+    return unlinkat(folderDescriptor, name.c_str(), AT_REMOVEDIR) == 0 || errno == ENOENT;
 }
 
 bool moveItem(const std::string& from, const std::string& to)

@@ -24,6 +24,8 @@ std::optional<std::vector<std::string>> contentsOfFolder(const std::string& path
 // Removes a file, a link (never what it points to) or a whole folder tree. True when nothing is
 // left at the path.
 bool removeItem(const std::string& path);
+// The same for `name` (a single name, or a path) relative to the open folder `folderDescriptor`.
+bool removeItemAt(int folderDescriptor, const std::string& name);
 
 // Renames within one volume; false across volumes or when `to` exists as a non-empty folder.
 bool moveItem(const std::string& from, const std::string& to);

@@ -66,11 +66,19 @@ std::string readLink(const std::string& path)
 
 std::string home()
 {
+    std::string folder = "/";
     if (const char* env = std::getenv("HOME"); env && *env)
-        return env;
-    if (const passwd* entry = getpwuid(getuid()); entry && entry->pw_dir)
-        return entry->pw_dir;
-    return "/";
+        folder = env;
+    else if (const passwd* entry = getpwuid(getuid()); entry && entry->pw_dir && *entry->pw_dir)
+        folder = entry->pw_dir;
+    while (folder.size() > 1 && folder.back() == '/')
+        folder.pop_back();
+    return folder;
+}
+
+std::string resolvedHome()
+{
+    return resolvingSymlinks(home());
 }
 
 std::string expandingTilde(const std::string& path)
@@ -84,13 +92,15 @@ std::string expandingTilde(const std::string& path)
 
 std::string abbreviatingWithTilde(const std::string& path)
 {
-    const std::string homeFolder = home();
-    if (homeFolder == "/" || homeFolder.empty())
-        return path;
-    if (path == homeFolder)
-        return "~";
-    if (path.starts_with(homeFolder + "/"))
-        return "~" + path.substr(homeFolder.size());
+    const std::string written = home();
+    for (const std::string& homeFolder : {written, resolvingSymlinks(written)}) {
+        if (homeFolder == "/" || homeFolder.empty())
+            return path;
+        if (path == homeFolder)
+            return "~";
+        if (path.starts_with(homeFolder + "/"))
+            return "~" + path.substr(homeFolder.size());
+    }
     return path;
 }
 
@@ -143,6 +153,11 @@ std::string parentFolder(const std::string& path)
     if (slash == std::string::npos)
         return ".";
     return slash == 0 ? "/" : path.substr(0, slash);
+}
+
+std::string joined(const std::string& folder, const std::string& name)
+{
+    return folder.ends_with('/') ? folder + name : folder + "/" + name;
 }
 
 std::string lastComponent(const std::string& path)

@@ -95,11 +95,19 @@ Outcome claim(const std::string& infoPath, std::string_view contents)
     return Outcome::done;
 }
 
+// The item to move: `name` inside the open folder `folder`, or a whole path with AT_FDCWD.
+// `path` is where it lies, for the record and the choice of trash.
+struct Source {
+    int folder;
+    std::string name;
+    std::string path;
+};
+
 // A rename that never replaces what stands at `to`. File systems without that guarantee get a
 // check before a plain rename.
-Outcome moveWithoutReplacing(const std::string& from, const std::string& to)
+Outcome moveWithoutReplacing(const Source& from, const std::string& to)
 {
-    if (renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0)
+    if (renameat2(from.folder, from.name.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0)
         return Outcome::done;
     if (errno == EEXIST || errno == ENOTEMPTY)
         return Outcome::taken;
@@ -107,12 +115,12 @@ Outcome moveWithoutReplacing(const std::string& from, const std::string& to)
         return Outcome::failed;
     if (FileSystem::exists(to))
         return Outcome::taken;
-    return rename(from.c_str(), to.c_str()) == 0 ? Outcome::done : Outcome::failed;
+    return renameat(from.folder, from.name.c_str(), AT_FDCWD, to.c_str()) == 0 ? Outcome::done : Outcome::failed;
 }
 
-Result moveIntoTrash(const std::string& item, const TrashLocation& trash, const std::string& contents)
+Result moveIntoTrash(const Source& item, const TrashLocation& trash, const std::string& contents)
 {
-    const std::string name = Paths::lastComponent(item);
+    const std::string name = Paths::lastComponent(item.path);
     for (unsigned attempt = 1; attempt <= maximumAttempts; ++attempt) {
         const std::string candidate = trashName(name, attempt);
         const std::string infoPath = trash.folder + "/info/" + candidate + std::string(TrashInfo::extension);
@@ -141,17 +149,31 @@ std::string recordedPath(const std::string& item, const TrashLocation& trash)
     return item.substr(trash.topFolder == "/" ? 1 : trash.topFolder.size() + 1);
 }
 
+Result trashSource(const Source& item)
+{
+    if (TrashLocation::holds(item.path))
+        return {};
+    const auto trash = TrashLocation::forItem(item.path);
+    if (!trash)
+        return {};
+    return moveIntoTrash(item, *trash, TrashInfo::contents(recordedPath(item.path, *trash), Clock::now()));
+}
+
 }  // namespace
 
 Result trashItem(const std::string& path)
 {
     const auto item = locatedItem(path);
-    if (!item || !FileSystem::exists(*item) || TrashLocation::holds(*item))
+    if (!item || !FileSystem::exists(*item))
         return {};
-    const auto trash = TrashLocation::forItem(*item);
-    if (!trash)
+    return trashSource({AT_FDCWD, *item, *item});
+}
+
+Result trashChild(const OpenFolder& folder, const std::string& name)
+{
+    if (name.empty() || name == "." || name == ".." || name.find('/') != std::string::npos || !folder.childInfo(name))
         return {};
-    return moveIntoTrash(*item, *trash, TrashInfo::contents(recordedPath(*item, *trash), Clock::now()));
+    return trashSource({folder.descriptor(), name, Paths::joined(folder.path(), name)});
 }
 
 bool putBack(const std::string& trashedPath, const std::string& originalPath)
@@ -162,7 +184,7 @@ bool putBack(const std::string& trashedPath, const std::string& originalPath)
     if (!FileSystem::exists(trashPath) || FileSystem::exists(originalPath))
         return false;
     FileSystem::createFolders(Paths::parentFolder(originalPath));
-    if (moveWithoutReplacing(trashPath, originalPath) != Outcome::done)
+    if (moveWithoutReplacing({AT_FDCWD, trashPath, trashPath}, originalPath) != Outcome::done)
         return false;
     // The record goes with the item, or file managers would list a ghost of it.
     const std::string filesFolder = Paths::parentFolder(trashPath);

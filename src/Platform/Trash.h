@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Platform/OpenFolder.h"
+
 #include <optional>
 #include <string>
 
@@ -22,6 +24,10 @@ struct Result {
 // Refused for anything that already lies in a trash, or is a trash folder, so that emptying the
 // Trash through the cleaner deletes it for real.
 Result trashItem(const std::string& path);
+
+// The same for the entry `name` of an open folder: the move starts from the folder that was
+// opened, whatever has been swapped on its path since. The folder's path must be free of links.
+Result trashChild(const OpenFolder& folder, const std::string& name);
 
 // Moves a trashed item back to `originalPath`, creating missing parent folders, and removes its
 // .trashinfo. False, with nothing changed, when something already stands at `originalPath` or

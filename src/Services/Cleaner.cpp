@@ -1,6 +1,7 @@
 #include "Services/Cleaner.h"
 
 #include "Platform/FileSystem.h"
+#include "Platform/OpenFolder.h"
 #include "Platform/Paths.h"
 #include "Platform/Trash.h"
 #include "Services/Finder.h"
@@ -39,9 +40,13 @@ bool hasRelativeComponents(const std::string& path)
 
 }  // namespace
 
-std::vector<std::string> protectedPaths()
+namespace {
+
+// Every list is built from the home with its links resolved and no trailing slash: the paths the
+// safety test is given are resolved, and a home reached through a link would otherwise match
+// none of them.
+std::vector<std::string> protectedPathsOf(const std::string& home)
 {
-    const std::string home = Paths::home();
     return {home,
             "/",
             "/Users",
@@ -59,9 +64,8 @@ std::vector<std::string> protectedPaths()
             home + "/Library"};
 }
 
-std::vector<std::string> protectedPrefixes()
+std::vector<std::string> protectedPrefixesOf(const std::string& home)
 {
-    const std::string home = Paths::home();
     return {home + "/Library/Application Support/MobileSync",
             home + "/Library/Mail",
             home + "/Library/Messages",
@@ -72,27 +76,49 @@ std::vector<std::string> protectedPrefixes()
             home + "/Music"};
 }
 
-std::vector<std::string> allowedRoots()
+std::vector<std::string> allowedRootsOf(const std::string& home)
 {
     std::vector<std::string> roots = {"/private/var/folders", "/Library/Caches"};
     // A home folder of "/" (some service accounts have one) would allow the whole disk.
-    const std::string home = Paths::home();
     if (home.starts_with("/") && componentCount(home) > 0)
         roots.insert(roots.begin(), home);
     return roots;
+}
+
+bool isProtected(const std::string& path, const std::string& home)
+{
+    const auto exact = protectedPathsOf(home);
+    if (std::find(exact.begin(), exact.end(), path) != exact.end())
+        return true;
+    const auto prefixes = protectedPrefixesOf(home);
+    return std::any_of(prefixes.begin(), prefixes.end(), [&](const auto& prefix) { return isInside(path, prefix); });
+}
+
+}  // namespace
+
+std::vector<std::string> protectedPaths()
+{
+    return protectedPathsOf(Paths::resolvedHome());
+}
+
+std::vector<std::string> protectedPrefixes()
+{
+    return protectedPrefixesOf(Paths::resolvedHome());
+}
+
+std::vector<std::string> allowedRoots()
+{
+    return allowedRootsOf(Paths::resolvedHome());
 }
 
 bool isSafe(const std::string& path)
 {
     if (!path.starts_with("/") || hasRelativeComponents(path))
         return false;
-    const auto exact = protectedPaths();
-    if (std::find(exact.begin(), exact.end(), path) != exact.end())
+    const std::string home = Paths::resolvedHome();
+    if (isProtected(path, home))
         return false;
-    const auto prefixes = protectedPrefixes();
-    if (std::any_of(prefixes.begin(), prefixes.end(), [&](const auto& prefix) { return isInside(path, prefix); }))
-        return false;
-    const auto roots = allowedRoots();
+    const auto roots = allowedRootsOf(home);
     if (std::none_of(roots.begin(), roots.end(), [&](const auto& root) { return isInside(path, root); }))
         return false;
     return componentCount(path) > 2;
@@ -112,38 +138,75 @@ namespace {
 
 constexpr double commandTimeoutSeconds = 180.0;
 
-// Moves one item to the Trash, or deletes it. What can't go to the Trash is deleted instead, so
-// a clean never stops half-way over a full or read-only trash.
-void remove(const std::string& path, bool moveToTrash, std::vector<TrashedItem>& trashed)
+std::string refused(const std::string& resolved)
+{
+    return "Refused (protected): " + resolved;
+}
+
+// Moves one entry of a checked folder to the Trash, or deletes it. What can't go to the Trash is
+// deleted instead, so a clean never stops half-way over a full or read-only trash. Both go
+// through the open folder, never through the path again.
+void remove(const OpenFolder& folder, const std::string& name, bool moveToTrash, std::vector<TrashedItem>& trashed)
 {
     if (moveToTrash) {
-        const Trash::Result result = Trash::trashItem(path);
+        const Trash::Result result = Trash::trashChild(folder, name);
         if (result.trashed) {
             if (result.trashPath)
-                trashed.push_back({path, *result.trashPath});
+                trashed.push_back({Paths::joined(folder.path(), name), *result.trashPath});
             return;
         }
     }
-    FileSystem::removeItem(path);
+    folder.removeChild(name);
+}
+
+// The desktop's own Trash may lie outside the home: moved to a bigger disk through a link, or
+// under a data home elsewhere. The Trash row may empty it there too, and nothing else is let
+// through: the folder must be exactly where the Trash leads, must not be protected or hold the
+// home, and only the trash's own entries in it are removed. Any other target naming the same
+// folder is refused as before.
+bool isOwnTrashOutsideTheRoots(const std::string& resolved)
+{
+    if (resolved != Paths::resolvingSymlinks(Trash::homeTrashFolder()))
+        return false;
+    const std::string home = Paths::resolvedHome();
+    return componentCount(resolved) > 1 && !isProtected(resolved, home) && !isInside(home, resolved);
+}
+
+bool isTrashEntry(const std::string& name)
+{
+    return name == "files" || name == "info" || name == "expunged" || name == "directorysizes" || name == "metadata";
 }
 
 // Clears a folder and leaves the folder itself. The safety test covers the folder named; all its
-// children go with it, links among them removed as links.
+// children go with it, links among them removed as links. The folder is opened once, right after
+// the test, and everything is removed through that: a component swapped for a link later on
+// can't lead the removal anywhere else.
 std::optional<std::string> removeContents(const std::string& path, bool moveToTrash,
-                                          std::vector<TrashedItem>& trashed)
+                                          std::vector<TrashedItem>& trashed,
+                                          bool isTrashRow = false)
 {
     const std::string resolved = Paths::resolvingSymlinks(path);
-    if (!isSafe(resolved))
-        return "Refused (protected): " + resolved;
-    const auto info = FileSystem::infoFollowingLinks(resolved);
+    const bool safe = isSafe(resolved);
+    const bool ownTrash = !safe && isTrashRow && isOwnTrashOutsideTheRoots(resolved);
+    if (!safe && !ownTrash)
+        return refused(resolved);
+    const auto info = FileSystem::info(resolved);
     if (!info)
         return std::nullopt;
     if (!info->isFolder()) {
-        remove(resolved, moveToTrash, trashed);
+        const auto parent = OpenFolder::open(Paths::parentFolder(resolved));
+        if (!parent)
+            return refused(resolved);
+        remove(*parent, Paths::lastComponent(resolved), moveToTrash, trashed);
         return std::nullopt;
     }
-    for (const auto& name : FileSystem::contentsOfFolder(resolved).value_or(std::vector<std::string>{}))
-        remove(resolved + "/" + name, moveToTrash, trashed);
+    const auto folder = OpenFolder::open(resolved);
+    if (!folder)
+        return refused(resolved);  // it became a link, or its path did, after the test
+    for (const auto& name : folder->childNames()) {
+        if (!ownTrash || isTrashEntry(name))
+            remove(*folder, name, moveToTrash, trashed);
+    }
     return std::nullopt;
 }
 
@@ -161,12 +224,12 @@ std::int64_t freedBetween(std::int64_t before, std::int64_t after)
     return std::max<std::int64_t>(0, before - after);
 }
 
-CleanOutcome cleanPaths(const PathsKind& kind, bool moveToTrash)
+CleanOutcome cleanPaths(const PathsKind& kind, bool moveToTrash, bool isTrashRow)
 {
     CleanOutcome outcome;
     const std::int64_t before = Scanner::totalSize(kind.paths);
     for (const auto& path : kind.paths) {
-        auto message = removeContents(Paths::expandingTilde(path), moveToTrash, outcome.trashed);
+        auto message = removeContents(Paths::expandingTilde(path), moveToTrash, outcome.trashed, isTrashRow);
         if (message && !outcome.error)
             outcome.error = std::move(message);
     }
@@ -198,9 +261,16 @@ CleanOutcome cleanFinder(const CleanupTarget& target, bool moveToTrash)
     const auto found = Finder::discover(target);
     const std::int64_t before = Scanner::totalSize(found);
     for (const auto& path : found) {
+        // The build folder goes whole, through its opened parent; one that has become a link
+        // since it was found is no build folder any more.
         const std::string resolved = Paths::resolvingSymlinks(path);
-        if (isSafe(resolved))
-            remove(resolved, moveToTrash, outcome.trashed);
+        if (!isSafe(resolved))
+            continue;
+        const auto parent = OpenFolder::open(Paths::parentFolder(resolved));
+        const std::string name = Paths::lastComponent(resolved);
+        const auto info = parent ? parent->childInfo(name) : std::nullopt;
+        if (info && info->isFolder())
+            remove(*parent, name, moveToTrash, outcome.trashed);
     }
     outcome.freed = freedBetween(before, Scanner::totalSize(Finder::discover(target)));
     return outcome;
@@ -211,7 +281,7 @@ CleanOutcome cleanFinder(const CleanupTarget& target, bool moveToTrash)
 CleanOutcome clean(const CleanupTarget& target, bool moveToTrash)
 {
     if (const auto* paths = std::get_if<PathsKind>(&target.kind))
-        return cleanPaths(*paths, moveToTrash);
+        return cleanPaths(*paths, moveToTrash, target.id == "trash");
     if (const auto* command = std::get_if<CommandKind>(&target.kind))
         return cleanCommand(*command, moveToTrash);
     return cleanFinder(target, moveToTrash);

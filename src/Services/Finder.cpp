@@ -83,6 +83,12 @@ private:
     std::optional<Clock::TimePoint> cutOff_;
 };
 
+bool isLink(const std::string& path)
+{
+    const auto info = FileSystem::info(path);
+    return info && info->isSymlink();
+}
+
 // The walk both searches share: roots, the depth limit, hidden entries and the ignore list. Which
 // names are looked for, and what becomes of a candidate, belong to the caller.
 struct Walk {
@@ -116,10 +122,10 @@ struct Walk {
             const std::string child = joined(folder, name);
             if (!FileSystem::isFolderFollowingLinks(child) || rules.isIgnored(child))
                 continue;
-            if (lookedFor)
-                onCandidate(Candidate{folder, *entries, name, child, depth});
-            else
+            if (!lookedFor)
                 walk(child, depth + 1);
+            else if (!isLink(child))  // a link to a shared store is someone's set-up, not build output
+                onCandidate(Candidate{folder, *entries, name, child, depth});
         }
     }
 };

@@ -175,27 +175,36 @@ TEST_F(FinderTest, AnUnreadableFolderIsTreatedAsEmpty)
     EXPECT_THAT(discover({"node_modules"}, 5, {}, {}, 0, {"~/Code/locked"}), IsEmpty());
 }
 
-TEST_F(FinderTest, SafetyIsJudgedWhereALinkLeadsButTheWalkedPathIsReturned)
+TEST_F(FinderTest, AMatchThatIsALinkIsNoBuildFolder)
 {
+    // pnpm-style stores and shared virtual environments are reached through links; the link is
+    // someone's deliberate set-up, and what it leads to belongs to other projects too.
     const std::string outside = tempHome.root() + "/elsewhere/modules";
     fs::create_directories(outside);
     fs::create_directories(path("Documents"));
     folder("Code/store/modules");
     folder("Code/out");
     folder("Code/docs");
-    folder("Code/kept");
+    folder("Code/shared");
+    folder("Code/py");
+    file("Code/py/requirements.txt");
+    folder("Code/envs/main");
+    file("Code/shared/package.json");
     fs::create_directory_symlink(outside, path("Code/out/node_modules"));
     fs::create_directory_symlink(path("Documents"), path("Code/docs/node_modules"));
-    fs::create_directory_symlink(path("Code/store/modules"), path("Code/kept/node_modules"));
+    fs::create_directory_symlink(path("Code/store/modules"), path("Code/shared/node_modules"));
+    fs::create_directory_symlink(path("Code/envs/main"), path("Code/py/.venv"));
+    fs::create_directory_symlink(path("gone"), path("Code/store/node_modules"));  // dangling
+    const std::string real = folder("Code/app/node_modules");
+    file("Code/app/package.json");
     folder("Music/proj/node_modules");
-    // A dangling link is no folder.
-    fs::create_directory_symlink(path("gone"), path("Code/store/node_modules"));
 
-    EXPECT_THAT(discover({"node_modules"}, 5, {}), ElementsAre(path("Code/kept/node_modules")));
+    EXPECT_THAT(discover({"node_modules", ".venv"}, 5, {}), ElementsAre(real));
+    EXPECT_THAT(byType(), ElementsAre(Pair(real, "node_modules")));
     EXPECT_THAT(discover({"node_modules"}, 5, {}, {}, 0, {"~/Music"}), IsEmpty());
 
-    // A root reached through a link keeps its spelling in what is returned.
-    fs::create_directory_symlink(path("Code/kept"), path("Projects"));
+    // Links above a match are still followed: a root reached through a link keeps its spelling.
+    fs::create_directory_symlink(path("Code/app"), path("Projects"));
     EXPECT_THAT(discover({"node_modules"}, 5, {}, {}, 0, {"~/Projects/"}), ElementsAre(path("Projects/node_modules")));
 }
 
