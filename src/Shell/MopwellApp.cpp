@@ -60,6 +60,16 @@ void MopwellApp::openWindow(const QString& id)
     windows_->open(id);
 }
 
+void MopwellApp::showPanel()
+{
+    if (!panel_)
+        return;  // not launched yet
+    if (statusItem_)
+        panel_->showUnder(statusItem_->geometry());
+    else
+        panel_->showAsWindow();
+}
+
 void MopwellApp::listenToViews()
 {
     Shell& shell = Shell::instance();

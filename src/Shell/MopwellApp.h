@@ -43,6 +43,9 @@ public:
 
     // Opens the window with this id, or brings it forward, and activates it.
     void openWindow(const QString& id);
+    // Shows the panel: under the status item, or as the window it is where there is none. What a
+    // second start of the application asks of this one.
+    void showPanel();
 
     AppModel& model() const { return model_; }
     Updater& updater() { return updater_; }

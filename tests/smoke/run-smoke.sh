@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Runs the real application on a virtual X display with a status area and a notification server,
 # as a user would meet it: the status item appears, a click drops the panel under it, a second
-# click puts it away, and "Quit Mopwell" in the item's menu ends the application. A picture of the
+# click puts it away, a second start of the application shows the panel of the first and ends,
+# and "Quit Mopwell" in the item's menu ends the application. A picture of the
 # screen with the panel open is saved as smoke.png.
 #
 # Usage: run-smoke.sh MOPWELL_EXECUTABLE SCREENSHOT_FOLDER
@@ -68,8 +69,11 @@ fi
 
 mkdir -p "$work"/{home,config,data,cache,runtime}
 chmod 700 "$work/runtime"
-HOME="$work/home" XDG_CONFIG_HOME="$work/config" XDG_DATA_HOME="$work/data" XDG_CACHE_HOME="$work/cache" \
-    XDG_RUNTIME_DIR="$work/runtime" QT_QPA_PLATFORM=xcb "$app" >"$work/mopwell.log" 2>&1 &
+start_app() {
+    HOME="$work/home" XDG_CONFIG_HOME="$work/config" XDG_DATA_HOME="$work/data" XDG_CACHE_HOME="$work/cache" \
+        XDG_RUNTIME_DIR="$work/runtime" QT_QPA_PLATFORM=xcb "$app" >"$work/$1.log" 2>&1 &
+}
+start_app mopwell
 app_pid=$!
 pids+=($app_pid)
 
@@ -121,6 +125,17 @@ awk -v s="$spread" 'BEGIN { exit !(s > 0.01) }' || fail "the status item's image
 xdotool mousemove "$click_x" "$click_y" click 1
 panel_hidden() { ! panel_shown; }
 wait_for 5 panel_hidden || fail "a second click didn't put the panel away"
+
+# A second start (an autostart entry plus a start by hand) hands over to the running copy, which
+# shows its panel, and ends at once.
+start_app second
+second_pid=$!
+second_ended() { ! kill -0 "$second_pid" 2>/dev/null; }
+wait_for 10 second_ended || fail "a second start of the application didn't end"
+wait "$second_pid" || fail "a second start exited with status $?"
+wait_for 10 panel_shown || fail "a second start didn't bring up the running copy's panel"
+xdotool mousemove "$click_x" "$click_y" click 1
+wait_for 5 panel_hidden || fail "a click didn't put the panel away after the second start"
 
 # "Quit Mopwell" is the only entry of the item's menu.
 xdotool mousemove "$click_x" "$click_y" click 3
