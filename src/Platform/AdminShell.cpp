@@ -2,6 +2,7 @@
 
 #include "Platform/ExecutablePath.h"
 #include "Platform/Subprocess.h"
+#include "Platform/TextTrim.h"
 #include "Platform/Utf8.h"
 
 #include <utility>
@@ -12,19 +13,23 @@ namespace {
 // pkexec's own status when the user dismissed the authorization dialog or was refused.
 constexpr int dismissedStatus = 126;
 
-std::string trimmed(std::string text)
+Result failure(const std::string& output, bool cancelled = false)
 {
-    const auto first = text.find_first_not_of(" \t\r\n");
-    if (first == std::string::npos)
-        return {};
-    const auto last = text.find_last_not_of(" \t\r\n");
-    return text.substr(first, last - first + 1);
+    const std::string_view message = TextTrim::trimmed(output);
+    return {false, cancelled, message.empty() ? "Authorization failed." : std::string(message)};
 }
 
-Result failure(std::string message, bool cancelled = false)
+std::string replacingAll(std::string_view text, char character, std::string_view replacement)
 {
-    message = trimmed(std::move(message));
-    return {false, cancelled, message.empty() ? "Authorization failed." : std::move(message)};
+    std::string result;
+    result.reserve(text.size());
+    for (const char c : text) {
+        if (c == character)
+            result += replacement;
+        else
+            result += c;
+    }
+    return result;
 }
 
 }  // namespace
@@ -45,28 +50,12 @@ Result run(const std::string& line)
         run.output.clear();
     if (run.status == 0)
         return {true, false, std::move(run.output)};
-    return failure(std::move(run.output), run.status == dismissedStatus);
+    return failure(run.output, run.status == dismissedStatus);
 }
 
 std::string escapedForAppleScript(std::string_view command)
 {
-    std::string escaped;
-    escaped.reserve(command.size());
-    for (const char c : command) {
-        if (c == '\\')
-            escaped += "\\\\";
-        else
-            escaped += c;
-    }
-    std::string quoted;
-    quoted.reserve(escaped.size());
-    for (const char c : escaped) {
-        if (c == '"')
-            quoted += "\\\"";
-        else
-            quoted += c;
-    }
-    return quoted;
+    return replacingAll(replacingAll(command, '\\', "\\\\"), '"', "\\\"");
 }
 
 std::string appleScriptSource(std::string_view command)

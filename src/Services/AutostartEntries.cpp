@@ -3,8 +3,9 @@
 #include "Platform/AtomicFile.h"
 #include "Platform/DesktopEntry.h"
 #include "Platform/FileSystem.h"
+#include "Platform/TextTrim.h"
 #include "Platform/XdgFolders.h"
-#include "Services/NameOrder.h"
+#include "Services/StartupFolder.h"
 
 #include <algorithm>
 
@@ -18,10 +19,10 @@ bool hides(const DesktopEntry& entry)
     return entry.boolean("Hidden").value_or(false) || !entry.boolean("X-GNOME-Autostart-enabled").value_or(true);
 }
 
-StartupItem itemFor(const std::string& folder, const std::string& name, bool inLiveFolder)
+StartupItem itemFor(const std::string& path, const std::string& name, bool inLiveFolder)
 {
     StartupItem item;
-    item.id = folder + "/" + name;
+    item.id = path;
     item.fileName = name;
     item.kind = StartupItem::Kind::autostartEntry;
     const auto entry = DesktopEntry::read(item.id);
@@ -33,20 +34,6 @@ StartupItem itemFor(const std::string& folder, const std::string& name, bool inL
     return item;
 }
 
-std::vector<StartupItem> entries(const std::string& folder, bool inLiveFolder)
-{
-    std::vector<StartupItem> items;
-    for (const std::string& name : FileSystem::contentsOfFolder(folder).value_or(std::vector<std::string>{})) {
-        if (name.size() <= suffix.size() || !name.ends_with(suffix))
-            continue;
-        items.push_back(itemFor(folder, name, inLiveFolder));
-    }
-    std::stable_sort(items.begin(), items.end(), [](const StartupItem& a, const StartupItem& b) {
-        return NameOrder::caseInsensitiveLess(a.label, b.label);
-    });
-    return items;
-}
-
 // Rewrites a hidden entry so that it starts; true when it is (or already was) shown.
 bool unhide(const std::string& path)
 {
@@ -56,14 +43,6 @@ bool unhide(const std::string& path)
     if (!isHidden(file.contents))
         return true;
     return AtomicFile::replace(path, shown(file.contents));
-}
-
-std::string_view trimmed(std::string_view text)
-{
-    const auto first = text.find_first_not_of(" \t\r");
-    if (first == std::string_view::npos)
-        return {};
-    return text.substr(first, text.find_last_not_of(" \t\r") - first + 1);
 }
 
 }  // namespace
@@ -80,10 +59,7 @@ std::string disabledFolder()
 
 std::vector<StartupItem> list()
 {
-    std::vector<StartupItem> items = entries(liveFolder(), true);
-    auto off = entries(disabledFolder(), false);
-    std::move(off.begin(), off.end(), std::back_inserter(items));
-    return items;
+    return StartupFolder::list(liveFolder(), disabledFolder(), suffix, itemFor);
 }
 
 bool setEnabled(bool enabled, const StartupItem& item)
@@ -111,11 +87,12 @@ std::string shown(std::string_view text)
         const std::string_view line = text.substr(start, end - start);
         const bool hasNewline = end < text.size();
         start = end + 1;
-        const std::string_view content = trimmed(line);
+        const std::string_view content = TextTrim::trimmed(line, " \t\r");
         if (!content.empty() && content.front() == '[')
             inMain = content == "[Desktop Entry]";
         const auto equals = content.find('=');
-        const std::string_view key = equals == std::string_view::npos ? std::string_view() : trimmed(content.substr(0, equals));
+        const std::string_view key =
+            equals == std::string_view::npos ? std::string_view() : TextTrim::trimmed(content.substr(0, equals), " \t\r");
         if (inMain && key == "Hidden")
             result += "Hidden=false";
         else if (inMain && key == "X-GNOME-Autostart-enabled")

@@ -1,5 +1,6 @@
 #include "Services/FlatpakUpdater.h"
 
+#include "Services/HomebrewUpdater.h"
 #include "Services/ShellQuote.h"
 #include "Services/ShellRunner.h"
 
@@ -9,10 +10,11 @@
 namespace FlatpakUpdater {
 namespace {
 
-constexpr double lookupTimeout = 20;
-constexpr double listTimeout = 120;
-constexpr double upgradeTimeout = 600;
-constexpr double upgradeAllTimeout = 1800;
+// The same limits as Homebrew's commands: a listing or an update takes as long either way.
+using HomebrewUpdater::listTimeout;
+using HomebrewUpdater::lookupTimeout;
+using HomebrewUpdater::upgradeAllTimeout;
+using HomebrewUpdater::upgradeTimeout;
 
 std::vector<std::string> fields(std::string_view line)
 {

@@ -11,11 +11,6 @@
 namespace HomebrewUpdater {
 namespace {
 
-constexpr double lookupTimeout = 20;
-constexpr double listTimeout = 120;
-constexpr double upgradeTimeout = 600;
-constexpr double upgradeAllTimeout = 1800;
-
 std::string installedVersion(const nlohmann::json& element)
 {
     const auto versions = element.find("installed_versions");

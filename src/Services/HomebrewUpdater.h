@@ -12,6 +12,12 @@
 // found: on the search path the user's profile sets up. Each call blocks for its command.
 namespace HomebrewUpdater {
 
+// How long each kind of command may take, in seconds; past that it counts as failed.
+constexpr double lookupTimeout = 20;
+constexpr double listTimeout = 120;
+constexpr double upgradeTimeout = 600;
+constexpr double upgradeAllTimeout = 1800;
+
 // "command -v brew" succeeds (20 seconds at most).
 bool isInstalled();
 

@@ -4,7 +4,7 @@
 #include "Platform/FileSystem.h"
 #include "Platform/Paths.h"
 #include "Platform/Subprocess.h"
-#include "Services/NameOrder.h"
+#include "Services/StartupFolder.h"
 
 #include <plist/plist.h>
 
@@ -15,8 +15,6 @@
 
 namespace LaunchAgentManager {
 namespace {
-
-constexpr std::string_view plistSuffix = ".plist";
 
 using PlistPointer = std::unique_ptr<std::remove_pointer_t<plist_t>, decltype(&plist_free)>;
 
@@ -58,27 +56,18 @@ void launchctl(const Tools& tools, const char* subcommand, const std::string& pa
     Subprocess::run(options);
 }
 
-std::vector<StartupItem> plists(const std::string& folder, bool enabled)
+StartupItem agent(const std::string& path, const std::string& name, bool enabled)
 {
-    std::vector<StartupItem> items;
-    for (const std::string& name : FileSystem::contentsOfFolder(folder).value_or(std::vector<std::string>{})) {
-        if (name.size() < plistSuffix.size() || name.compare(name.size() - plistSuffix.size(), plistSuffix.size(), plistSuffix) != 0)
-            continue;
-        StartupItem item;
-        item.id = folder + "/" + name;
-        item.fileName = name;
-        item.enabled = enabled;
-        item.kind = StartupItem::Kind::launchAgent;
-        const auto file = AtomicFile::read(item.id);
-        const PlistSummary summary = file.readable ? parsePlist(file.contents) : PlistSummary{};
-        item.label = summary.label.value_or(withoutExtension(name));
-        item.program = summary.program.value_or("—");
-        items.push_back(std::move(item));
-    }
-    std::stable_sort(items.begin(), items.end(), [](const StartupItem& a, const StartupItem& b) {
-        return NameOrder::caseInsensitiveLess(a.label, b.label);
-    });
-    return items;
+    StartupItem item;
+    item.id = path;
+    item.fileName = name;
+    item.enabled = enabled;
+    item.kind = StartupItem::Kind::launchAgent;
+    const auto file = AtomicFile::read(path);
+    const PlistSummary summary = file.readable ? parsePlist(file.contents) : PlistSummary{};
+    item.label = summary.label.value_or(withoutExtension(name));
+    item.program = summary.program.value_or("—");
+    return item;
 }
 
 }  // namespace
@@ -95,10 +84,7 @@ std::string disabledFolder()
 
 std::vector<StartupItem> list()
 {
-    std::vector<StartupItem> items = plists(liveFolder(), true);
-    auto off = plists(disabledFolder(), false);
-    std::move(off.begin(), off.end(), std::back_inserter(items));
-    return items;
+    return StartupFolder::list(liveFolder(), disabledFolder(), ".plist", agent);
 }
 
 bool setEnabled(bool enabled, const StartupItem& item, const Tools& tools)

@@ -1,5 +1,7 @@
 #include "Services/SnapshotListing.h"
 
+#include "Platform/TextTrim.h"
+
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
@@ -12,15 +14,6 @@ namespace {
 
 constexpr std::string_view timeMachinePrefix = "com.apple.TimeMachine.";
 constexpr std::string_view localSuffix = ".local";
-
-std::string_view trimmed(std::string_view line)
-{
-    const auto first = line.find_first_not_of(" \t");
-    if (first == std::string_view::npos)
-        return {};
-    const auto last = line.find_last_not_of(" \t");
-    return line.substr(first, last - first + 1);
-}
 
 nlohmann::json parsed(std::string_view text)
 {
@@ -76,7 +69,7 @@ std::vector<LocalSnapshot> parseTimeMachine(std::string_view output)
     std::size_t start = 0;
     while (start <= output.size()) {
         const auto end = std::min(output.find('\n', start), output.size());
-        const std::string_view line = trimmed(output.substr(start, end - start));
+        const std::string_view line = TextTrim::trimmed(output.substr(start, end - start), " \t");
         start = end + 1;
         const auto prefix = line.find(timeMachinePrefix);
         if (prefix == std::string_view::npos)

@@ -1,6 +1,7 @@
 #include "Services/AutostartEntries.h"
 
 #include "Platform/AtomicFile.h"
+#include "Support/StartupItemRows.h"
 #include "Support/TempHome.h"
 
 #include <gtest/gtest.h>
@@ -17,13 +18,6 @@ protected:
     {
         return tempHome.writeFile(".config/autostart/" + relative, contents);
     }
-    static std::vector<std::string> rows(const std::vector<StartupItem>& items)
-    {
-        std::vector<std::string> result;
-        for (const auto& item : items)
-            result.push_back(item.label + " | " + item.program + (item.enabled ? " | on" : " | off"));
-        return result;
-    }
 };
 
 }  // namespace
@@ -38,7 +32,7 @@ TEST_F(AutostartEntriesTest, ListsEntriesWithTheirNameAndProgram)
     entry("garbage.desktop", "\x01\x02 not an entry");
     entry("readme.txt", "[Desktop Entry]\nName=not listed\n");
     entry("Disabled/old.desktop", "[Desktop Entry]\nName=Old\nExec=old\n");
-    EXPECT_EQ(rows(AutostartEntries::list()), (std::vector<std::string>{
+    EXPECT_EQ(startupItemRows(AutostartEntries::list()), (std::vector<std::string>{
                                                   "garbage | — | on",
                                                   "Gnome off | go | off",
                                                   "Hidden one | hid | off",
@@ -73,7 +67,7 @@ TEST_F(AutostartEntriesTest, NeverOverwritesAnEntryOfTheSameName)
     ASSERT_EQ(items.size(), 2u);
     EXPECT_FALSE(AutostartEntries::setEnabled(true, items[1]));
     EXPECT_FALSE(AutostartEntries::setEnabled(false, items[0]));
-    EXPECT_EQ(rows(AutostartEntries::list()), (std::vector<std::string>{"Live | — | on", "Off | — | off"}));
+    EXPECT_EQ(startupItemRows(AutostartEntries::list()), (std::vector<std::string>{"Live | — | on", "Off | — | off"}));
 }
 
 TEST_F(AutostartEntriesTest, SwitchingOnAHiddenEntryUnhidesItInPlace)

@@ -1,5 +1,6 @@
 #include "Services/LaunchAgentManager.h"
 
+#include "Support/StartupItemRows.h"
 #include "Support/TempHome.h"
 #include "Support/ToolStubs.h"
 
@@ -35,13 +36,6 @@ protected:
     {
         return tempHome.writeFile("Library/LaunchAgents/" + relative, contents);
     }
-    static std::vector<std::string> rows(const std::vector<StartupItem>& items)
-    {
-        std::vector<std::string> result;
-        for (const auto& item : items)
-            result.push_back(item.label + " | " + item.program + (item.enabled ? " | on" : " | off"));
-        return result;
-    }
 };
 
 }  // namespace
@@ -60,7 +54,7 @@ TEST_F(LaunchAgentManagerTest, ListsLiveThenSwitchedOffAgentsEachSortedByLabel)
     agent("notes.txt", plist("<key>Label</key><string>not listed</string>"));
     agent("Disabled/com.c.plist", plist("<key>Label</key><string>Charlie</string>"
                                         "<key>ProgramArguments</key><array><integer>1</integer></array>"));
-    EXPECT_EQ(rows(LaunchAgentManager::list()), (std::vector<std::string>{
+    EXPECT_EQ(startupItemRows(LaunchAgentManager::list()), (std::vector<std::string>{
                                                     "Alpha | /opt/a | on",
                                                     "beta | /opt/b | on",
                                                     "broken | — | on",
@@ -118,5 +112,5 @@ TEST_F(LaunchAgentManagerTest, NeverOverwritesAFileOfTheSameName)
     ASSERT_EQ(items.size(), 2u);
     EXPECT_FALSE(LaunchAgentManager::setEnabled(true, items[1], tools));
     EXPECT_FALSE(LaunchAgentManager::setEnabled(false, items[0], tools));
-    EXPECT_EQ(rows(LaunchAgentManager::list()), (std::vector<std::string>{"live | — | on", "switched off | — | off"}));
+    EXPECT_EQ(startupItemRows(LaunchAgentManager::list()), (std::vector<std::string>{"live | — | on", "switched off | — | off"}));
 }
