@@ -22,24 +22,30 @@ std::optional<Clock::TimePoint> modificationDate(const std::string& path)
 
 void scan(const std::vector<std::string>& roots, const std::vector<std::string>& ignore, int minAgeDays,
           const std::shared_ptr<CancelToken>& token, const std::function<void(int)>& onProgress,
-          const std::function<void(const ProjectDir&)>& onFound)
+          const std::function<void(const ProjectDir&)>& onFound,
+          const std::function<void(const std::vector<ProjectDir>&)>& onDiscovered)
 {
     const auto& kinds = BuildArtifactType::all();
     std::map<std::string, const BuildArtifactType*> kindByID;
     for (const auto& kind : kinds)
         kindByID.emplace(kind.id, &kind);
 
-    const auto found = Finder::discoverByType(roots, kinds, ignore, minAgeDays, Clock::now());
-    int measured = 0;
-    for (const auto& [path, kindID] : found) {
-        // Measuring is the slow part, so this is where a cancelled scan stops.
-        if (token && token->isCancelled())
-            return;
+    std::vector<ProjectDir> dirs;
+    for (const auto& [path, kindID] : Finder::discoverByType(roots, kinds, ignore, minAgeDays, Clock::now())) {
         const auto kind = kindByID.find(kindID);
-        if (kind == kindByID.end())
-            continue;
-        ProjectDir dir{path, kind->second->id, kind->second->label, kind->second->symbol, 0, modificationDate(path)};
-        dir.size = Scanner::directorySize(path);
+        if (kind != kindByID.end())
+            dirs.push_back({path, kind->second->id, kind->second->label, kind->second->symbol, 0, modificationDate(path)});
+    }
+    const auto cancelled = [&token] { return token && token->isCancelled(); };
+    if (onDiscovered && !cancelled())
+        onDiscovered(dirs);
+
+    int measured = 0;
+    for (ProjectDir& dir : dirs) {
+        // Measuring is the slow part, so this is where a cancelled scan stops.
+        if (cancelled())
+            return;
+        dir.size = Scanner::directorySize(dir.path);
         ++measured;
         if (onProgress)
             onProgress(measured);

@@ -81,3 +81,42 @@ TEST_F(ProjectScannerTest, ACancelledTokenStopsBeforeTheNextFolder)
     uncancelled.scan({}, std::make_shared<CancelToken>());
     EXPECT_EQ(uncancelled.found.size(), 3u);
 }
+
+TEST_F(ProjectScannerTest, EveryFolderIsAnnouncedOnceBeforeTheFirstIsMeasured)
+{
+    tempHome.writeFile("Code/app/package.json");
+    tempHome.writeFile("Code/app/node_modules/lib/index.js", std::string(20000, 'x'));
+    tempHome.writeFile("Code/rs/Cargo.toml");
+    tempHome.makeFolder("Code/rs/target");
+
+    std::vector<std::string> events;
+    std::vector<ProjectDir> announced;
+    std::vector<std::string> measuredOrder;
+    const auto scan = [&](const std::shared_ptr<CancelToken>& token) {
+        ProjectScanner::scan(
+            {"~/Code"}, {}, 0, token, [&](int) { events.push_back("progress"); },
+            [&](const ProjectDir& dir) {
+                events.push_back("found");
+                measuredOrder.push_back(dir.path);
+            },
+            [&](const std::vector<ProjectDir>& dirs) {
+                events.push_back("discovered " + std::to_string(dirs.size()));
+                announced = dirs;
+            });
+    };
+    scan(std::make_shared<CancelToken>());
+    EXPECT_THAT(events, ElementsAre("discovered 2", "progress", "found", "progress", "found"));
+    ASSERT_EQ(announced.size(), 2u);
+    for (std::size_t i = 0; i < announced.size(); ++i) {
+        EXPECT_EQ(announced[i].path, measuredOrder[i]);
+        EXPECT_EQ(announced[i].size, 0);
+        EXPECT_EQ(announced[i].modified, FileSystem::info(announced[i].path)->modified);
+    }
+
+    // A scan cancelled before measuring announces nothing either.
+    events.clear();
+    auto cancelled = std::make_shared<CancelToken>();
+    cancelled->cancel();
+    scan(cancelled);
+    EXPECT_TRUE(events.empty());
+}
