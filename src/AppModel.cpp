@@ -17,36 +17,6 @@ using namespace QtConversions;
 
 namespace {
 
-bool gatedOff(const std::string& id, const AppSettings& settings)
-{
-    return (id == "savedstate" && !settings.cleanSavedState()) ||
-           (id == "musiccache" && !settings.cleanMusicCache()) ||
-           (id == "maildownloads" && !settings.cleanMailDownloads());
-}
-
-bool isDeveloperOnly(CleanupCategory category)
-{
-    return category == CleanupCategory::developer || category == CleanupCategory::buildArtifacts;
-}
-
-std::vector<CleanupTarget> liveCatalog(const AppSettings& settings)
-{
-    std::vector<CleanupTarget> live;
-    for (const auto& target : CleanupCatalog::builtIn()) {
-        if ((settings.developerMode() || !isDeveloperOnly(target.category)) && !gatedOff(target.id, settings))
-            live.push_back(target);
-    }
-    if (settings.developerMode()) {
-        const auto finders = CleanupCatalog::finderTargets(toStd(settings.projectRoots()),
-                                                           toStd(settings.ignoredFinderPaths()),
-                                                           static_cast<int>(settings.finderMinAgeDays()));
-        live.insert(live.end(), finders.begin(), finders.end());
-    }
-    for (const auto& folder : settings.customFolders())
-        live.push_back(CleanupTarget::customFolder(toStd(folder)));
-    return live;
-}
-
 std::int64_t knownSize(const TargetState& state) { return state.size.value_or(0); }
 
 SimpleGroup makeGroup(std::string id, std::string title, std::string symbol,
@@ -70,8 +40,8 @@ AppModel& AppModel::shared()
     return *instance;
 }
 
-AppModel::AppModel(std::shared_ptr<DefaultsStore> defaults, QObject* parent)
-    : QObject(parent), disk_(DiskInfo::current(Paths::home()))
+AppModel::AppModel(std::shared_ptr<DefaultsStore> defaults, PlatformProfile profile, QObject* parent)
+    : QObject(parent), disk_(DiskInfo::current(Paths::home())), profile_(profile)
 {
     settings_ = new AppSettings(defaults, this);
     defaults_ = std::move(defaults);
@@ -107,7 +77,7 @@ void AppModel::rebuildTargets()
         knownSizes.emplace(state.id(), state.size);
 
     std::vector<TargetState> rebuilt;
-    for (auto& target : liveCatalog(*settings_)) {
+    for (auto& target : CleanupCatalog::liveTargets(settings_->targetListSettings(), profile_)) {
         const auto known = knownSizes.find(target.id);
         const auto size = known == knownSizes.end() ? std::nullopt : known->second;
         rebuilt.push_back(TargetState{std::move(target), size, false, false});

@@ -7,6 +7,7 @@
 #include "Models/SimpleGroup.h"
 #include "Models/TargetState.h"
 #include "Platform/Clock.h"
+#include "Platform/PlatformProfile.h"
 #include "Services/CleanOutcome.h"
 
 #include <QDateTime>
@@ -53,11 +54,14 @@ public:
     // The instance the application runs on, over the user's defaults store.
     static AppModel& shared();
 
-    // A model over the given store; the application uses shared(), tests make their own.
-    explicit AppModel(std::shared_ptr<DefaultsStore> defaults, QObject* parent = nullptr);
+    // A model over the given store, with the catalog of the given desktop; the application uses
+    // shared(), tests make their own.
+    explicit AppModel(std::shared_ptr<DefaultsStore> defaults, PlatformProfile profile = currentPlatformProfile(),
+                      QObject* parent = nullptr);
     ~AppModel() override;
 
     AppSettings* settings() const { return settings_; }
+    PlatformProfile profile() const { return profile_; }
 
     const DiskInfo& disk() const { return disk_; }
     qint64 diskTotal() const { return disk_.total; }
@@ -197,6 +201,7 @@ private:
 
     AppSettings* settings_ = nullptr;
     std::shared_ptr<DefaultsStore> defaults_;
+    PlatformProfile profile_;
     QTimer* timer_ = nullptr;
     QTimer* cacheWatchTimer_ = nullptr;
     bool lowSpaceNotified_ = false;

@@ -31,8 +31,8 @@ protected:
     // One file in each kind of place a scheduled clean must or must not touch.
     void seedEverywhere()
     {
-        TreeBuilder::writeFile(H + "/Library/Caches/app/blob", 5000);
-        TreeBuilder::writeFile(H + "/Library/Logs/a.log", 5000);
+        TreeBuilder::writeFile(H + "/.cache/app/blob", 5000);
+        TreeBuilder::writeFile(H + "/.local/share/xorg/Xorg.0.log", 5000);
         TreeBuilder::writeFile(H + "/.gradle/caches/dep.jar", 5000);
         TreeBuilder::writeFile(H + "/keepme/custom.bin", 5000);
         TreeBuilder::writeFile(Trash::homeTrashFolder() + "/files/old.txt", 10);
@@ -59,7 +59,7 @@ TEST_F(AppModelAutomationTest, AWeeklyCleanRunsOnceAWeekHasPassed)
     settings.setLastAutoCleanup(now - 604'799s);
     model->runScheduledCleanupIfDue();
     EXPECT_FALSE(model->isCleaningAll());  // one second younger than a week
-    EXPECT_TRUE(fs::exists(H + "/Library/Logs/a.log"));
+    EXPECT_TRUE(fs::exists(H + "/.local/share/xorg/Xorg.0.log"));
 
     settings.setLastAutoCleanup(now - 604'800s);
     QSignalSpy cleaningAll(model.get(), &AppModel::isCleaningAllChanged);
@@ -68,8 +68,8 @@ TEST_F(AppModelAutomationTest, AWeeklyCleanRunsOnceAWeekHasPassed)
     model->runScheduledCleanupIfDue();           // a later tick starts nothing more
     ASSERT_TRUE(waitUntil([&] { return !model->isCleaningAll(); }));
     EXPECT_EQ(cleaningAll.count(), 2);           // on for the one clean, then off
-    EXPECT_FALSE(fs::exists(H + "/Library/Logs/a.log"));
-    EXPECT_FALSE(fs::exists(H + "/Library/Caches/app"));
+    EXPECT_FALSE(fs::exists(H + "/.local/share/xorg/Xorg.0.log"));
+    EXPECT_FALSE(fs::exists(H + "/.cache/app"));
     EXPECT_TRUE(model->statusMessage().startsWith("Auto-cleanup freed "));
 }
 
@@ -88,7 +88,7 @@ TEST_F(AppModelAutomationTest, AnAutomaticCleanTouchesOnlyEverydayCachesAndAlway
     EXPECT_TRUE(fs::exists(H + "/.gradle/caches/dep.jar"));
     EXPECT_TRUE(fs::exists(H + "/keepme/custom.bin"));
     EXPECT_TRUE(fs::exists(Trash::homeTrashFolder() + "/files/old.txt"));
-    EXPECT_FALSE(fs::exists(H + "/Library/Logs/a.log"));
+    EXPECT_FALSE(fs::exists(H + "/.local/share/xorg/Xorg.0.log"));
     // Both cleaned folders went to the Trash, and the history can put them back.
     std::size_t restorable = 0;
     for (const auto& record : model->history())

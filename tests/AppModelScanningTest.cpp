@@ -23,15 +23,15 @@ class AppModelScanningTest : public ModelFixture {};
 TEST_F(AppModelScanningTest, ScanAllMeasuresEveryTargetAndStampsTheTime)
 {
     const std::string home = tempHome.home();
-    TreeBuilder::writeFile(home + "/Library/Caches/app/blob", 20'000);
-    TreeBuilder::writeFile(home + "/Library/Logs/old.log", 3'000);
+    TreeBuilder::writeFile(home + "/.cache/app/blob", 20'000);
+    TreeBuilder::writeFile(home + "/.local/share/xorg/Xorg.0.log.old", 3'000);
     QSignalSpy lastScan(model.get(), &AppModel::lastScanChanged);
     const auto before = Clock::now();
 
     QCoro::waitFor(model->scanAll());
 
-    EXPECT_EQ(state("appcaches")->size, TreeBuilder::allocatedSize(home + "/Library/Caches/app/blob"));
-    EXPECT_EQ(state("logs")->size, TreeBuilder::allocatedSize(home + "/Library/Logs/old.log"));
+    EXPECT_EQ(state("appcaches")->size, TreeBuilder::allocatedSize(home + "/.cache/app/blob"));
+    EXPECT_EQ(state("logs")->size, TreeBuilder::allocatedSize(home + "/.local/share/xorg/Xorg.0.log.old"));
     EXPECT_EQ(state("firefox")->size, 0);  // missing folders measure 0
     EXPECT_FALSE(model->isScanning());
     ASSERT_TRUE(model->lastScan().has_value());
@@ -42,7 +42,7 @@ TEST_F(AppModelScanningTest, ScanAllMeasuresEveryTargetAndStampsTheTime)
 
 TEST_F(AppModelScanningTest, ScanShowsItselfWhileRunningAndIgnoresUnknownIds)
 {
-    TreeBuilder::writeFile(tempHome.home() + "/Library/Logs/a.log", 100);
+    TreeBuilder::writeFile(tempHome.home() + "/.local/share/xorg/Xorg.0.log", 100);
     const auto targetsBefore = model->targets();
     QCoro::waitFor(model->scan("no-such-target"));
     EXPECT_EQ(model->targets(), targetsBefore);
@@ -64,13 +64,13 @@ TEST_F(AppModelScanningTest, ARebuildDuringAScanKeepsTheFinalResultById)
 {
     const std::string home = tempHome.home();
     for (int i = 0; i < 3100; ++i)
-        TreeBuilder::writeFile(home + "/Library/Logs/d" + std::to_string(i % 5) + "/f" + std::to_string(i), 1);
+        TreeBuilder::writeFile(home + "/.local/share/xorg/d" + std::to_string(i % 5) + "/f" + std::to_string(i), 1);
     auto running = model->scan("logs");
     model->rebuildTargets();
     EXPECT_FALSE(state("logs")->isScanning);  // the new state starts idle
     QCoro::waitFor(std::move(running));
     QCoreApplication::processEvents();  // late progress reports must not undo anything
-    EXPECT_EQ(state("logs")->size, Scanner::directorySize(home + "/Library/Logs"));
+    EXPECT_EQ(state("logs")->size, Scanner::directorySize(home + "/.local/share/xorg"));
 }
 
 TEST_F(AppModelScanningTest, CustomFoldersAreValidatedAddedMeasuredAndRemoved)

@@ -15,7 +15,8 @@ namespace {
 class AppModelTest : public TempHomeTest {
 protected:
     std::shared_ptr<DefaultsStore> store = std::make_shared<DefaultsStore>(tempHome.configHome() + "/mopwell/defaults.plist");
-    AppModel model{store};
+    // The behaviour the Mac's catalog was specified with; the Linux list is tested with its table.
+    AppModel model{store, PlatformProfile::macOS};
     AppSettings& settings = *model.settings();
 
     std::vector<std::string> ids() const
@@ -101,7 +102,7 @@ TEST_F(AppModelTest, RebuildKeepsSizesOnlyForIdsThatStayed)
 TEST_F(AppModelTest, RebuildToleratesADuplicatedCustomFolder)
 {
     store->set("customFolders", std::vector<std::string>{"/data/x", "/data/x"});
-    AppModel edited(store);
+    AppModel edited(store, PlatformProfile::macOS);
     AppModelTestAccess::setSize(edited, "custom:/data/x", 9);
     edited.rebuildTargets();
     ASSERT_EQ(edited.targets().size(), 9u);

@@ -1,104 +1,13 @@
 #include "Models/CleanupCatalog.h"
 
+#include "Models/LinuxCatalog.h"
+#include "Models/MacOSCatalog.h"
 #include "Platform/Paths.h"
-#include "Platform/Trash.h"
+
+#include <algorithm>
 
 namespace CleanupCatalog {
 namespace {
-
-CleanupTarget paths(std::string id, std::string name, std::string symbol, std::string detail,
-                    std::vector<std::string> list, CleanupCategory category)
-{
-    return {std::move(id), std::move(name), std::move(symbol), std::move(detail),
-            PathsKind{std::move(list)}, category, true};
-}
-
-CleanupTarget command(std::string id, std::string name, std::string symbol, std::string detail,
-                      std::string shell, std::vector<std::string> fallback)
-{
-    return {std::move(id), std::move(name), std::move(symbol), std::move(detail),
-            CommandKind{std::move(shell), std::move(fallback)}, CleanupCategory::developer, true};
-}
-
-// The desktop's Trash as a catalog path. Emptying it clears its files/ and info/ folders
-// together, so no record outlives its item.
-std::string trashLocation()
-{
-    return Paths::abbreviatingWithTilde(Trash::homeTrashFolder());
-}
-
-std::vector<CleanupTarget> makeBuiltIn()
-{
-    using enum CleanupCategory;
-    const std::string cached = "Cached web data — pages reload as needed";
-    return {
-        paths("trash", "Trash", "trash.fill", "Empty the Trash", {trashLocation()}, recommended),
-        paths("appcaches", "App cache files", "shippingbox.fill",
-              "Temporary files apps recreate as needed", {"~/Library/Caches"}, recommended),
-        paths("logs", "App & system logs", "doc.text.fill", "Old log files", {"~/Library/Logs"},
-              recommended),
-        paths("savedstate", "Saved application state", "macwindow",
-              "Window/tab restore data — apps won't reopen last session",
-              {"~/Library/Saved Application State"}, recommended),
-        paths("musiccache", "Apple Music cache", "music.note",
-              "Streamed-audio cache — songs re-buffer next time",
-              {"~/Library/Caches/com.apple.Music/SubscriptionPlayCache",
-               "~/Library/Caches/com.apple.Music/fsCachedData"},
-              recommended),
-        paths("maildownloads", "Mail attachment previews", "envelope.fill",
-              "Temp copies of opened attachments — originals stay safe",
-              {"~/Library/Containers/com.apple.mail/Data/Library/Mail Downloads"}, recommended),
-        paths("chrome", "Google Chrome cache", "globe", cached,
-              {"~/Library/Caches/Google/Chrome",
-               "~/Library/Application Support/Google/Chrome/Default/Cache",
-               "~/Library/Application Support/Google/Chrome/Default/Code Cache"},
-              browsers),
-        paths("safari", "Safari cache", "safari.fill", cached,
-              {"~/Library/Containers/com.apple.Safari/Data/Library/Caches"}, browsers),
-        paths("firefox", "Firefox cache", "globe", cached, {"~/Library/Caches/Firefox"}, browsers),
-        paths("derived", "Xcode DerivedData", "hammer.fill", "Build artifacts — rebuilt on next build",
-              {"~/Library/Developer/Xcode/DerivedData"}, developer),
-        paths("devicesupport", "Old iOS DeviceSupport", "iphone.gen2",
-              "Symbol caches — regenerated on device connect",
-              {"~/Library/Developer/Xcode/iOS DeviceSupport"}, developer),
-        command("sims", "Unavailable simulators", "iphone.slash",
-                "Orphaned iOS simulators (active ones kept)", "xcrun simctl delete unavailable", {}),
-        paths("gradle", "Gradle caches", "shippingbox.fill", "Android/Gradle downloads & build cache",
-              {"~/.gradle/caches", "~/.gradle/wrapper/dists"}, developer),
-        command("npm", "npm cache", "cube.box.fill", "Node package cache", "npm cache clean --force",
-                {"~/.npm/_cacache"}),
-        command("yarn", "Yarn cache", "cube.box.fill", "Yarn package cache", "yarn cache clean",
-                {"~/Library/Caches/Yarn"}),
-        command("pnpm", "pnpm store", "cube.box.fill", "pnpm content-addressable store",
-                "pnpm store prune", {"~/Library/pnpm/store", "~/.pnpm-store"}),
-        command("uv", "uv cache", "cube.box.fill", "Python uv package cache", "uv cache clean",
-                {"~/.cache/uv"}),
-        paths("pip", "pip cache", "cube.box.fill", "Python pip download cache",
-              {"~/Library/Caches/pip"}, developer),
-        command("pods", "CocoaPods cache", "cube.box.fill", "Pod download cache",
-                "pod cache clean --all", {"~/Library/Caches/CocoaPods"}),
-        paths("pub", "Flutter / pub cache", "cube.box.fill", "Dart/Flutter packages", {"~/.pub-cache"},
-              developer),
-        command("go", "Go module cache", "cube.box.fill", "Downloaded Go modules",
-                "go clean -modcache", {"~/go/pkg/mod"}),
-        paths("cargo", "Cargo registry cache", "cube.box.fill", "Rust crate downloads",
-              {"~/.cargo/registry/cache", "~/.cargo/registry/src"}, developer),
-        command("docker", "Docker prune", "shippingbox.fill",
-                "Dangling images, stopped containers, build cache", "docker system prune -f", {}),
-        paths("jetbrains", "JetBrains caches", "cube.box.fill", "IntelliJ/PyCharm/etc. caches",
-              {"~/Library/Caches/JetBrains"}, developer),
-        command("brew", "Homebrew cleanup", "mug.fill", "Old versions & download cache",
-                "brew cleanup -s", {"~/Library/Caches/Homebrew"}),
-        paths("swiftpm", "Swift / build tool caches", "cube.box.fill", "SwiftPM, TypeScript, node-gyp",
-              {"~/Library/Caches/org.swift.swiftpm", "~/Library/Caches/typescript",
-               "~/Library/Caches/node-gyp"},
-              developer),
-        paths("ml", "ML / browser-automation caches", "brain.head.profile",
-              "puppeteer, huggingface, whisper, selenium",
-              {"~/.cache/puppeteer", "~/.cache/huggingface", "~/.cache/whisper", "~/.cache/selenium"},
-              developer),
-    };
-}
 
 CleanupTarget finder(std::string id, std::string name, std::string detail,
                      std::vector<std::string> names, int maxDepth, std::vector<std::string> markers,
@@ -110,11 +19,68 @@ CleanupTarget finder(std::string id, std::string name, std::string detail,
             CleanupCategory::buildArtifacts, true};
 }
 
+bool isDeveloperOnly(CleanupCategory category)
+{
+    return category == CleanupCategory::developer || category == CleanupCategory::buildArtifacts;
+}
+
+bool gatedOff(const std::string& id, const TargetListSettings& settings)
+{
+    return (id == "savedstate" && !settings.cleanSavedState) || (id == "musiccache" && !settings.cleanMusicCache) ||
+           (id == "maildownloads" && !settings.cleanMailDownloads);
+}
+
+// The folders a target measures: none for a build-folder rule, whose folders are found later.
+const std::vector<std::string>* foldersOf(const CleanupTarget& target)
+{
+    if (const auto* paths = std::get_if<PathsKind>(&target.kind))
+        return &paths->paths;
+    if (const auto* command = std::get_if<CommandKind>(&target.kind))
+        return &command->fallbackPaths;
+    return nullptr;
+}
+
+bool isStrictlyInside(const std::string& path, const std::string& folder)
+{
+    return path.size() > folder.size() + 1 && path.starts_with(folder) && path[folder.size()] == '/';
+}
+
+// Gives `outer` every folder of `inner` that lies inside one of its own, as excluded.
+void leaveNestedFolders(PathsKind& outer, const CleanupTarget& inner)
+{
+    const auto* innerFolders = foldersOf(inner);
+    if (!innerFolders)
+        return;
+    for (const auto& folder : *innerFolders) {
+        const std::string expanded = Paths::expandingTilde(folder);
+        const bool nested = std::any_of(outer.paths.begin(), outer.paths.end(), [&](const std::string& own) {
+            return isStrictlyInside(expanded, Paths::expandingTilde(own));
+        });
+        if (nested && std::find(outer.excluded.begin(), outer.excluded.end(), folder) == outer.excluded.end())
+            outer.excluded.push_back(folder);
+    }
+}
+
+void leaveNestedFoldersToTheirRows(std::vector<CleanupTarget>& live, const std::vector<CleanupTarget>& withheld)
+{
+    for (std::size_t i = 0; i < live.size(); ++i) {
+        auto* outer = std::get_if<PathsKind>(&live[i].kind);
+        if (!outer)
+            continue;
+        for (std::size_t j = 0; j < live.size(); ++j) {
+            if (j != i)
+                leaveNestedFolders(*outer, live[j]);
+        }
+        for (const auto& inner : withheld)
+            leaveNestedFolders(*outer, inner);
+    }
+}
+
 }  // namespace
 
-std::vector<CleanupTarget> builtIn()
+std::vector<CleanupTarget> builtIn(PlatformProfile profile)
 {
-    return makeBuiltIn();
+    return profile == PlatformProfile::macOS ? MacOSCatalog::rows() : LinuxCatalog::rows();
 }
 
 std::vector<CleanupTarget> finderTargets(const std::vector<std::string>& roots,
@@ -134,6 +100,30 @@ std::vector<CleanupTarget> finderTargets(const std::vector<std::string>& roots,
                {".venv", "venv"}, 4, {"pyproject.toml", "requirements.txt", "Pipfile", "setup.py"},
                roots, ignore, minAgeDays),
     };
+}
+
+std::vector<CleanupTarget> liveTargets(const TargetListSettings& settings, PlatformProfile profile)
+{
+    std::vector<CleanupTarget> live;
+    std::vector<CleanupTarget> withheld;
+    for (auto& target : builtIn(profile)) {
+        if (!settings.developerMode && isDeveloperOnly(target.category))
+            continue;
+        if (gatedOff(target.id, settings))
+            withheld.push_back(std::move(target));
+        else
+            live.push_back(std::move(target));
+    }
+    if (settings.developerMode) {
+        auto finders = finderTargets(settings.projectRoots, settings.ignoredFinderPaths,
+                                     static_cast<int>(settings.finderMinAgeDays));
+        std::move(finders.begin(), finders.end(), std::back_inserter(live));
+    }
+    for (const auto& folder : settings.customFolders)
+        live.push_back(CleanupTarget::customFolder(folder));
+    if (profile == PlatformProfile::linuxDesktop)
+        leaveNestedFoldersToTheirRows(live, withheld);
+    return live;
 }
 
 }  // namespace CleanupCatalog

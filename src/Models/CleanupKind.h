@@ -1,14 +1,23 @@
 #pragma once
 
 #include <string>
+#include <utility>
 #include <variant>
 #include <vector>
 
 // How a target is measured and removed. Paths may begin with "~"; they are expanded when used.
 
-// Folders whose contents are cleared.
+// Folders whose contents are cleared. Folders listed in `excluded` lie inside them and belong to
+// another target: they are neither measured nor cleared with these, so every byte counts once.
 struct PathsKind {
+    PathsKind() = default;
+    PathsKind(std::vector<std::string> paths, std::vector<std::string> excluded = {})
+        : paths(std::move(paths)), excluded(std::move(excluded))
+    {
+    }
+
     std::vector<std::string> paths;
+    std::vector<std::string> excluded;
     bool operator==(const PathsKind&) const = default;
 };
 

@@ -1,8 +1,8 @@
 #include "Services/AppSettings.h"
 
 #include "Platform/DefaultsStore.h"
-#include "Platform/Paths.h"
 #include "QtConversions.h"
+#include "Services/StoredTargetSettings.h"
 
 using namespace QtConversions;
 
@@ -28,29 +28,38 @@ AppSettings::AppSettings(std::shared_ptr<DefaultsStore> defaults, QObject* paren
 void AppSettings::readAll()
 {
     const DefaultsStore& store = *defaults_;
-    auto strings = [&](const char* key) { return toQt(store.stringArray(key).value_or(std::vector<std::string>{})); };
-
     refreshInterval_ = store.number("refreshInterval").value_or(5.0);
     lowSpaceThresholdGB_ = store.number("lowSpaceThresholdGB").value_or(10.0);
     lowSpaceAlertsEnabled_ = store.boolean("lowSpaceAlertsEnabled").value_or(true);
-    customFolders_ = strings("customFolders");
-    disabledTargetIDs_ = asSet(strings("disabledTargetIDs"));
     moveToTrash_ = store.boolean("moveToTrash").value_or(true);
-    // The default roots apply only to a first start: a list the user emptied stays empty.
-    projectRoots_ = store.contains("projectRoots")
-                        ? strings("projectRoots")
-                        : QStringList{toQt(Paths::expandingTilde("~/src")), toQt(Paths::expandingTilde("~/dev"))};
-    ignoredFinderPaths_ = strings("ignoredFinderPaths");
-    finderMinAgeDays_ = store.number("finderMinAgeDays").value_or(0.0);
+    const TargetListSettings list = StoredTargetSettings::read(store);
+    customFolders_ = toQt(list.customFolders);
+    disabledTargetIDs_ = asSet(toQt(list.disabledTargetIDs));
+    projectRoots_ = toQt(list.projectRoots);
+    ignoredFinderPaths_ = toQt(list.ignoredFinderPaths);
+    finderMinAgeDays_ = list.finderMinAgeDays;
+    developerMode_ = list.developerMode;
+    cleanSavedState_ = list.cleanSavedState;
+    cleanMusicCache_ = list.cleanMusicCache;
+    cleanMailDownloads_ = list.cleanMailDownloads;
     sortBySize_ = store.boolValue("sortBySize");
     cleanupSchedule_ = CleanupSchedules::fromRawValue(store.string("cleanupSchedule").value_or(""));
     lastAutoCleanup_ = store.date("lastAutoCleanup");
     hasCompletedOnboarding_ = store.boolValue("hasCompletedOnboarding");
     menuBarDisplay_ = MenuBarDisplays::fromRawValue(store.string("menuBarDisplay").value_or(""));
-    developerMode_ = store.boolValue("developerMode");
-    cleanSavedState_ = store.boolean("cleanSavedState").value_or(false);
-    cleanMusicCache_ = store.boolean("cleanMusicCache").value_or(false);
-    cleanMailDownloads_ = store.boolean("cleanMailDownloads").value_or(true);
+}
+
+TargetListSettings AppSettings::targetListSettings() const
+{
+    return {.developerMode = developerMode_,
+            .cleanSavedState = cleanSavedState_,
+            .cleanMusicCache = cleanMusicCache_,
+            .cleanMailDownloads = cleanMailDownloads_,
+            .projectRoots = toStd(projectRoots_),
+            .ignoredFinderPaths = toStd(ignoredFinderPaths_),
+            .finderMinAgeDays = finderMinAgeDays_,
+            .customFolders = toStd(customFolders_),
+            .disabledTargetIDs = toStd(disabledTargetIDs_)};
 }
 
 template <typename Value>

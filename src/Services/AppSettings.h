@@ -2,6 +2,7 @@
 
 #include "Models/CleanupSchedule.h"
 #include "Models/MenuBarDisplay.h"
+#include "Models/TargetListSettings.h"
 #include "Platform/Clock.h"
 
 #include <QDateTime>
@@ -87,6 +88,9 @@ public:
     void setCleanSavedState(bool enabled);
     void setCleanMusicCache(bool enabled);
     void setCleanMailDownloads(bool enabled);
+
+    // The values that shape the target list, as the catalog takes them.
+    TargetListSettings targetListSettings() const;
 
     // A target is enabled unless its id was disabled; ids never mentioned are enabled.
     Q_INVOKABLE bool isEnabled(const QString& id) const { return !disabledTargetIDs_.contains(id); }

@@ -24,8 +24,11 @@ std::optional<std::int64_t> size(const CleanupTarget& target, const Progress& on
 // isn't a folder, else the sum over every regular file below it, hidden ones included, links not
 // followed, unreadable folders skipped. Never fails.
 std::int64_t directorySize(const std::string& path, const Progress& onProgress = {});
+// The same, leaving out the items at the `excluded` paths ("~" allowed) that lie inside `path`.
+std::int64_t directorySize(const std::string& path, const std::vector<std::string>& excluded,
+                           const Progress& onProgress = {});
 
-// The sum of directorySize over `paths`, without progress.
-std::int64_t totalSize(const std::vector<std::string>& paths);
+// The sum of directorySize over `paths`, without progress, each leaving out `excluded`.
+std::int64_t totalSize(const std::vector<std::string>& paths, const std::vector<std::string>& excluded = {});
 
 }  // namespace Scanner

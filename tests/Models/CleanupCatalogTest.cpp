@@ -8,9 +8,9 @@ using ::testing::ElementsAreArray;
 
 namespace {
 
-CleanupTarget builtIn(const std::string& id)
+CleanupTarget builtIn(const std::string& id, PlatformProfile profile = PlatformProfile::macOS)
 {
-    for (const auto& target : CleanupCatalog::builtIn()) {
+    for (const auto& target : CleanupCatalog::builtIn(profile)) {
         if (target.id == id)
             return target;
     }
@@ -25,49 +25,85 @@ std::vector<std::string> idsOf(const std::vector<CleanupTarget>& targets)
     return ids;
 }
 
-}  // namespace
-
-TEST(CleanupCatalog, BuiltInRowsComeInPanelOrderWithTheirSections)
+CleanupKind paths(std::vector<std::string> list)
 {
-    const auto& catalog = CleanupCatalog::builtIn();
-    EXPECT_THAT(idsOf(catalog),
-                ElementsAreArray({"trash", "appcaches", "logs", "savedstate", "musiccache", "maildownloads",
-                                  "chrome", "safari", "firefox", "derived", "devicesupport", "sims", "gradle",
-                                  "npm", "yarn", "pnpm", "uv", "pip", "pods", "pub", "go", "cargo", "docker",
-                                  "jetbrains", "brew", "swiftpm", "ml"}));
-    for (std::size_t i = 0; i < catalog.size(); ++i) {
-        const auto expected = i < 6 ? CleanupCategory::recommended
-                              : i < 9 ? CleanupCategory::browsers
-                                      : CleanupCategory::developer;
-        EXPECT_EQ(catalog[i].category, expected) << catalog[i].id;
-        EXPECT_TRUE(catalog[i].isBuiltIn) << catalog[i].id;
-    }
+    return PathsKind{std::move(list)};
 }
 
-TEST(CleanupCatalog, RowsKeepTheirExactTextsAndKinds)
+CleanupKind command(std::string shell, std::vector<std::string> fallback)
 {
-    const auto& savedState = builtIn("savedstate");
-    EXPECT_EQ(savedState.name, "Saved application state");
-    EXPECT_EQ(savedState.symbol, "macwindow");
-    EXPECT_EQ(savedState.detail, "Window/tab restore data — apps won't reopen last session");
-    EXPECT_EQ(savedState.kind, CleanupKind(PathsKind{{"~/Library/Saved Application State"}}));
+    return CommandKind{std::move(shell), std::move(fallback)};
+}
 
-    EXPECT_EQ(builtIn("chrome").kind,
-              CleanupKind(PathsKind{{"~/Library/Caches/Google/Chrome",
-                                     "~/Library/Application Support/Google/Chrome/Default/Cache",
-                                     "~/Library/Application Support/Google/Chrome/Default/Code Cache"}}));
-    EXPECT_EQ(builtIn("sims").kind, CleanupKind(CommandKind{"xcrun simctl delete unavailable", {}}));
-    EXPECT_EQ(builtIn("pnpm").kind,
-              CleanupKind(CommandKind{"pnpm store prune", {"~/Library/pnpm/store", "~/.pnpm-store"}}));
-    EXPECT_EQ(builtIn("brew").name, "Homebrew cleanup");
-    EXPECT_EQ(builtIn("brew").symbol, "mug.fill");
-    EXPECT_EQ(builtIn("ml").detail, "puppeteer, huggingface, whisper, selenium");
-    EXPECT_EQ(std::get<PathsKind>(builtIn("ml").kind).paths.size(), 4u);
+}  // namespace
 
-    int commands = 0;
-    for (const auto& target : CleanupCatalog::builtIn())
-        commands += std::holds_alternative<CommandKind>(target.kind) ? 1 : 0;
-    EXPECT_EQ(commands, 9);
+TEST(CleanupCatalog, TheMacTableIsExactRowByRow)
+{
+    using enum CleanupCategory;
+    const std::string cached = "Cached web data — pages reload as needed";
+    const std::vector<CleanupTarget> expected = {
+        {"trash", "Trash", "trash.fill", "Empty the Trash", paths({"~/.Trash"}), recommended, true},
+        {"appcaches", "App cache files", "shippingbox.fill", "Temporary files apps recreate as needed",
+         paths({"~/Library/Caches"}), recommended, true},
+        {"logs", "App & system logs", "doc.text.fill", "Old log files", paths({"~/Library/Logs"}), recommended, true},
+        {"savedstate", "Saved application state", "macwindow", "Window/tab restore data — apps won't reopen last session",
+         paths({"~/Library/Saved Application State"}), recommended, true},
+        {"musiccache", "Apple Music cache", "music.note", "Streamed-audio cache — songs re-buffer next time",
+         paths({"~/Library/Caches/com.apple.Music/SubscriptionPlayCache", "~/Library/Caches/com.apple.Music/fsCachedData"}),
+         recommended, true},
+        {"maildownloads", "Mail attachment previews", "envelope.fill",
+         "Temp copies of opened attachments — originals stay safe",
+         paths({"~/Library/Containers/com.apple.mail/Data/Library/Mail Downloads"}), recommended, true},
+        {"chrome", "Google Chrome cache", "globe", cached,
+         paths({"~/Library/Caches/Google/Chrome", "~/Library/Application Support/Google/Chrome/Default/Cache",
+                "~/Library/Application Support/Google/Chrome/Default/Code Cache"}),
+         browsers, true},
+        {"safari", "Safari cache", "safari.fill", cached,
+         paths({"~/Library/Containers/com.apple.Safari/Data/Library/Caches"}), browsers, true},
+        {"firefox", "Firefox cache", "globe", cached, paths({"~/Library/Caches/Firefox"}), browsers, true},
+        {"derived", "Xcode DerivedData", "hammer.fill", "Build artifacts — rebuilt on next build",
+         paths({"~/Library/Developer/Xcode/DerivedData"}), developer, true},
+        {"devicesupport", "Old iOS DeviceSupport", "iphone.gen2", "Symbol caches — regenerated on device connect",
+         paths({"~/Library/Developer/Xcode/iOS DeviceSupport"}), developer, true},
+        {"sims", "Unavailable simulators", "iphone.slash", "Orphaned iOS simulators (active ones kept)",
+         command("xcrun simctl delete unavailable", {}), developer, true},
+        {"gradle", "Gradle caches", "shippingbox.fill", "Android/Gradle downloads & build cache",
+         paths({"~/.gradle/caches", "~/.gradle/wrapper/dists"}), developer, true},
+        {"npm", "npm cache", "cube.box.fill", "Node package cache", command("npm cache clean --force", {"~/.npm/_cacache"}),
+         developer, true},
+        {"yarn", "Yarn cache", "cube.box.fill", "Yarn package cache",
+         command("yarn cache clean", {"~/Library/Caches/Yarn"}), developer, true},
+        {"pnpm", "pnpm store", "cube.box.fill", "pnpm content-addressable store",
+         command("pnpm store prune", {"~/Library/pnpm/store", "~/.pnpm-store"}), developer, true},
+        {"uv", "uv cache", "cube.box.fill", "Python uv package cache", command("uv cache clean", {"~/.cache/uv"}),
+         developer, true},
+        {"pip", "pip cache", "cube.box.fill", "Python pip download cache", paths({"~/Library/Caches/pip"}), developer,
+         true},
+        {"pods", "CocoaPods cache", "cube.box.fill", "Pod download cache",
+         command("pod cache clean --all", {"~/Library/Caches/CocoaPods"}), developer, true},
+        {"pub", "Flutter / pub cache", "cube.box.fill", "Dart/Flutter packages", paths({"~/.pub-cache"}), developer,
+         true},
+        {"go", "Go module cache", "cube.box.fill", "Downloaded Go modules", command("go clean -modcache", {"~/go/pkg/mod"}),
+         developer, true},
+        {"cargo", "Cargo registry cache", "cube.box.fill", "Rust crate downloads",
+         paths({"~/.cargo/registry/cache", "~/.cargo/registry/src"}), developer, true},
+        {"docker", "Docker prune", "shippingbox.fill", "Dangling images, stopped containers, build cache",
+         command("docker system prune -f", {}), developer, true},
+        {"jetbrains", "JetBrains caches", "cube.box.fill", "IntelliJ/PyCharm/etc. caches",
+         paths({"~/Library/Caches/JetBrains"}), developer, true},
+        {"brew", "Homebrew cleanup", "mug.fill", "Old versions & download cache",
+         command("brew cleanup -s", {"~/Library/Caches/Homebrew"}), developer, true},
+        {"swiftpm", "Swift / build tool caches", "cube.box.fill", "SwiftPM, TypeScript, node-gyp",
+         paths({"~/Library/Caches/org.swift.swiftpm", "~/Library/Caches/typescript", "~/Library/Caches/node-gyp"}),
+         developer, true},
+        {"ml", "ML / browser-automation caches", "brain.head.profile", "puppeteer, huggingface, whisper, selenium",
+         paths({"~/.cache/puppeteer", "~/.cache/huggingface", "~/.cache/whisper", "~/.cache/selenium"}), developer,
+         true},
+    };
+    const auto catalog = CleanupCatalog::builtIn(PlatformProfile::macOS);
+    ASSERT_EQ(catalog.size(), expected.size());
+    for (std::size_t i = 0; i < catalog.size(); ++i)
+        EXPECT_EQ(catalog[i], expected[i]) << "row " << i + 1 << ", " << expected[i].id;
 }
 
 TEST(CleanupCatalog, FinderTargetsCopyTheirArgumentsIntoEveryRow)

@@ -42,8 +42,10 @@ std::set<QString> symbolsUsedIn(const QString& file)
 TEST(Icons, EverySymbolTheApplicationUsesHasAnIcon)
 {
     std::set<QString> used;
-    for (const auto& target : CleanupCatalog::builtIn())
-        used.insert(QString::fromStdString(target.symbol));
+    for (const auto profile : {PlatformProfile::macOS, PlatformProfile::linuxDesktop}) {
+        for (const auto& target : CleanupCatalog::builtIn(profile))
+            used.insert(QString::fromStdString(target.symbol));
+    }
     for (const auto& target : CleanupCatalog::finderTargets({}, {}, 0))
         used.insert(QString::fromStdString(target.symbol));
     used.insert(QString::fromStdString(CleanupTarget::customFolder("/x/y").symbol));

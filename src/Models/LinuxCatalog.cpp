@@ -1,0 +1,133 @@
+#include "Models/LinuxCatalog.h"
+
+#include "Models/CatalogRows.h"
+#include "Platform/FileSystem.h"
+#include "Platform/Paths.h"
+#include "Platform/Trash.h"
+#include "Platform/XdgFolders.h"
+
+#include <algorithm>
+
+namespace LinuxCatalog {
+namespace {
+
+std::string tilde(const std::string& path)
+{
+    return Paths::abbreviatingWithTilde(path);
+}
+
+std::string inCache(const std::string& relative)
+{
+    return tilde(XdgFolders::cacheHome() + "/" + relative);
+}
+
+bool isRealFolder(const std::string& path)
+{
+    const auto info = FileSystem::info(path);
+    return info && info->isFolder();
+}
+
+// Inside a Flatpak sandbox an app's $XDG_CACHE_HOME is ~/.var/app/<app>/cache; inside a Snap
+// with the desktop launcher it is ~/snap/<snap>/common/.cache.
+std::string flatpakCache(const std::string& app, const std::string& relative)
+{
+    return "~/.var/app/" + app + "/cache/" + relative;
+}
+
+std::string snapCache(const std::string& snap, const std::string& relative)
+{
+    return "~/snap/" + snap + "/common/.cache/" + relative;
+}
+
+// The whole cache folder, except the sign-in tokens Hugging Face keeps in its corner of it: they
+// are credentials, not caches, and a clean must not sign the user out.
+CleanupTarget appCaches()
+{
+    CleanupTarget target = CatalogRows::paths("appcaches", "App cache files", "shippingbox.fill",
+                                              "Temporary files apps recreate as needed",
+                                              {tilde(XdgFolders::cacheHome())}, CleanupCategory::recommended);
+    std::get<PathsKind>(target.kind).excluded = {inCache("huggingface/token"), inCache("huggingface/stored_tokens")};
+    return target;
+}
+
+}  // namespace
+
+std::vector<std::string> flatpakCacheFolders()
+{
+    const std::string apps = Paths::home() + "/.var/app";
+    auto names = FileSystem::contentsOfFolder(apps).value_or(std::vector<std::string>{});
+    std::sort(names.begin(), names.end());
+    std::vector<std::string> folders;
+    for (const auto& name : names) {
+        if (isRealFolder(apps + "/" + name) && isRealFolder(apps + "/" + name + "/cache"))
+            folders.push_back("~/.var/app/" + name + "/cache");
+    }
+    return folders;
+}
+
+std::vector<CleanupTarget> rows()
+{
+    using enum CleanupCategory;
+    using CatalogRows::command;
+    using CatalogRows::paths;
+    const std::string& cached = CatalogRows::cachedWebData;
+    std::vector<CleanupTarget> table = {
+        // Emptying the Trash clears its files/ and info/ folders together, so no record outlives
+        // its item.
+        paths("trash", "Trash", "trash.fill", "Empty the Trash", {tilde(Trash::homeTrashFolder())}, recommended),
+        appCaches(),
+        // Xorg keeps its log here when it runs without root rights, as desktops start it now.
+        paths("logs", "Display server logs", "doc.text.fill", "Old Xorg log files",
+              {tilde(XdgFolders::dataHome() + "/xorg")}, recommended),
+        paths("savedstate", "Saved session state", "macwindow",
+              "Window/tab restore data — apps won't reopen last session", {inCache("sessions")}, recommended),
+        paths("thumbnails", "Thumbnails", "photo.fill", "Previews file managers recreate as needed",
+              {inCache("thumbnails"), "~/.thumbnails"}, recommended),
+        paths("flatpakcaches", "Flatpak app caches", "shippingbox.fill",
+              "Temporary files Flatpak apps recreate as needed", flatpakCacheFolders(), recommended),
+        paths("chrome", "Google Chrome cache", "globe", cached,
+              {inCache("google-chrome"), flatpakCache("com.google.Chrome", "google-chrome")}, browsers),
+        paths("chromium", "Chromium cache", "globe", cached,
+              {inCache("chromium"), flatpakCache("org.chromium.Chromium", "chromium"),
+               snapCache("chromium", "chromium")},
+              browsers),
+        paths("firefox", "Firefox cache", "globe", cached,
+              {inCache("mozilla/firefox"), flatpakCache("org.mozilla.firefox", "mozilla/firefox"),
+               snapCache("firefox", "mozilla/firefox")},
+              browsers),
+        paths("gradle", "Gradle caches", "shippingbox.fill", "Android/Gradle downloads & build cache",
+              {"~/.gradle/caches", "~/.gradle/wrapper/dists"}, developer),
+        command("npm", "npm cache", "cube.box.fill", "Node package cache", "npm cache clean --force",
+                {"~/.npm/_cacache"}),
+        command("yarn", "Yarn cache", "cube.box.fill", "Yarn package cache", "yarn cache clean", {inCache("yarn")}),
+        command("pnpm", "pnpm store", "cube.box.fill", "pnpm content-addressable store", "pnpm store prune",
+                {tilde(XdgFolders::dataHome() + "/pnpm/store"), "~/.pnpm-store"}),
+        command("uv", "uv cache", "cube.box.fill", "Python uv package cache", "uv cache clean", {inCache("uv")}),
+        paths("pip", "pip cache", "cube.box.fill", "Python pip download cache", {inCache("pip")}, developer),
+        paths("pub", "Flutter / pub cache", "cube.box.fill", "Dart/Flutter packages", {"~/.pub-cache"}, developer),
+        command("go", "Go module cache", "cube.box.fill", "Downloaded Go modules", "go clean -modcache",
+                {"~/go/pkg/mod"}),
+        paths("cargo", "Cargo registry cache", "cube.box.fill", "Rust crate downloads",
+              {"~/.cargo/registry/cache", "~/.cargo/registry/src"}, developer),
+        command("docker", "Docker prune", "shippingbox.fill", "Dangling images, stopped containers, build cache",
+                "docker system prune -f", {}),
+        paths("jetbrains", "JetBrains caches", "cube.box.fill", "IntelliJ/PyCharm/etc. caches",
+              {inCache("JetBrains")}, developer),
+        command("brew", "Homebrew cleanup", "mug.fill", "Old versions & download cache", "brew cleanup -s",
+                {inCache("Homebrew")}),
+        paths("swiftpm", "Swift / build tool caches", "cube.box.fill", "SwiftPM, TypeScript, node-gyp",
+              {inCache("org.swift.swiftpm"), inCache("typescript"), inCache("node-gyp")}, developer),
+        // Only the model store of Hugging Face, whose folder also keeps the sign-in tokens.
+        paths("ml", "ML / browser-automation caches", "brain.head.profile",
+              "puppeteer, huggingface, whisper, selenium",
+              {"~/.cache/puppeteer", inCache("huggingface/hub"), inCache("whisper"), "~/.cache/selenium"},
+              developer),
+    };
+    // A desktop without per-user Flatpak apps has no such caches; the row would only ever be empty.
+    std::erase_if(table, [](const CleanupTarget& target) {
+        return target.id == "flatpakcaches" && std::get<PathsKind>(target.kind).paths.empty();
+    });
+    return table;
+}
+
+}  // namespace LinuxCatalog
