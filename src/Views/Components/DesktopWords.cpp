@@ -12,6 +12,7 @@ DesktopWords::Words DesktopWords::forProfile(PlatformProfile profile)
             tr("Reveal in Finder"),
             tr("Reveal project in Finder"),
             tr("Open Login Items…"),
+            tr("Double-tap to open"),
             tr("App login items are managed by macOS."),
             tr("Local snapshots are temporary copies Time Machine keeps so it can back up when your drive isn't "
                "connected. macOS frees them automatically under pressure — removing them reclaims that space now. "
@@ -24,6 +25,7 @@ DesktopWords::Words DesktopWords::forProfile(PlatformProfile profile)
         tr("Show in File Manager"),
         tr("Show project in File Manager"),
         tr("Open Startup Settings…"),
+        tr("Double-click to open"),
         tr("Startup apps for all users are managed by your desktop."),
         tr("Snapshots are copies of your system that Snapper keeps on Btrfs so you can undo changes. Old ones hold "
            "on to space — removing them reclaims it now. Your backups on other drives are not touched."),

@@ -24,6 +24,7 @@ class DesktopWords : public QObject {
     Q_PROPERTY(QString startupItemsElsewhere READ startupItemsElsewhere CONSTANT)
     Q_PROPERTY(QString snapshotsDescription READ snapshotsDescription CONSTANT)
     Q_PROPERTY(QString snapshotsRemovedLater READ snapshotsRemovedLater CONSTANT)
+    Q_PROPERTY(QString openFolderHint READ openFolderHint CONSTANT)
 
 public:
     struct Words {
@@ -31,6 +32,8 @@ public:
         QString revealInFileManager;
         QString revealProjectInFileManager;
         QString openStartupSettings;
+        // What a screen reader says to do on a folder that opens: the gesture its desktop uses.
+        QString openFolderHint;
         // The startup items the startup window leaves to the desktop's own settings.
         QString startupItemsElsewhere;
         // What local snapshots are, and what removing them does.
@@ -53,6 +56,7 @@ public:
     QString startupItemsElsewhere() const { return current().startupItemsElsewhere; }
     QString snapshotsDescription() const { return current().snapshotsDescription; }
     QString snapshotsRemovedLater() const { return current().snapshotsRemovedLater; }
+    QString openFolderHint() const { return current().openFolderHint; }
 
 private:
     explicit DesktopWords(QObject* parent = nullptr);

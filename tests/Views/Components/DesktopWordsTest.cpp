@@ -1,0 +1,59 @@
+#include "Views/Components/DesktopWords.h"
+
+#include <QQmlComponent>
+#include <QQmlEngine>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace {
+
+struct Word {
+    QString DesktopWords::Words::*member;
+    const char* mac;  // the text the Mac has always shown
+};
+
+const Word words[] = {
+    {&DesktopWords::Words::fileManager, "Finder"},
+    {&DesktopWords::Words::revealInFileManager, "Reveal in Finder"},
+    {&DesktopWords::Words::revealProjectInFileManager, "Reveal project in Finder"},
+    {&DesktopWords::Words::openStartupSettings, "Open Login Items…"},
+    {&DesktopWords::Words::openFolderHint, "Double-tap to open"},
+};
+
+}  // namespace
+
+TEST(DesktopWords, TheMacKeepsItsTextsAndLinuxSaysItsOwn)
+{
+    const auto mac = DesktopWords::forProfile(PlatformProfile::macOS);
+    const auto onLinux = DesktopWords::forProfile(PlatformProfile::linuxDesktop);
+    for (const auto& word : words) {
+        EXPECT_EQ(mac.*word.member, QString::fromUtf8(word.mac));
+        EXPECT_FALSE((onLinux.*word.member).isEmpty()) << word.mac;
+        EXPECT_NE(onLinux.*word.member, mac.*word.member) << word.mac;
+        for (const char* macOnly : {"Finder", "Login Items", "macOS", "Double-tap"})
+            EXPECT_FALSE((onLinux.*word.member).contains(QString::fromUtf8(macOnly))) << word.mac;
+    }
+    EXPECT_EQ(onLinux.revealInFileManager, "Show in File Manager");
+}
+
+TEST(DesktopWords, ViewsReadTheWordsOfThisBuildsDesktop)
+{
+    QQmlEngine engine;
+    engine.addImportPath(QStringLiteral("qrc:/"));
+    QQmlComponent component(&engine);
+    component.setData(R"(
+        import QtQml
+        import Mopwell
+        QtObject {
+            property string reveal: DesktopWords.revealInFileManager
+            property string hint: DesktopWords.openFolderHint
+        })",
+                      QUrl());
+    const std::unique_ptr<QObject> view(component.create());
+    ASSERT_TRUE(view) << component.errorString().toStdString();
+    const auto expected = DesktopWords::forProfile(currentPlatformProfile());
+    EXPECT_EQ(view->property("reveal").toString(), expected.revealInFileManager);
+    EXPECT_EQ(view->property("hint").toString(), expected.openFolderHint);
+}
