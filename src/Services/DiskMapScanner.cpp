@@ -140,8 +140,8 @@ struct OpenFolder {
 class TreeGatherer : public DirectoryWalker::Visitor {
 public:
     TreeGatherer(const std::string& rootPath, const CancelToken* token, const Progress& onProgress,
-                 const ChildHandler& onChild)
-        : token_(token), onProgress_(onProgress), onChild_(onChild)
+                 const ChildHandler& onChild, HiddenEntries hidden)
+        : token_(token), onProgress_(onProgress), onChild_(onChild), skipsHidden_(hidden == HiddenEntries::skipped)
     {
         open(DiskNode::Path(rootPath == "/" ? std::string_view() : std::string_view(rootPath)), 0, {});
     }
@@ -150,7 +150,7 @@ public:
     {
         if (token_ && token_->isCancelled())
             return DirectoryWalker::Action::stop;
-        if (isHidden(entry.name))
+        if (skipsHidden_ && isHidden(entry.name))
             return DirectoryWalker::Action::skip;
         const ItemInfo& info = entry.info;
         if (info.isFolder()) {
@@ -239,6 +239,7 @@ private:
     const CancelToken* token_;
     const Progress& onProgress_;
     const ChildHandler& onChild_;
+    const bool skipsHidden_;
     std::vector<OpenFolder> slots_;  // the first depth_ are the open folders, the root first
     std::size_t depth_ = 0;
     std::int64_t bytesSeen_ = 0;
@@ -273,7 +274,7 @@ DiskNode::Path prefixOf(const std::string& path)
 }  // namespace
 
 DiskNode scanStreaming(const std::string& root, const std::shared_ptr<CancelToken>& token,
-                       const Progress& onProgress, const ChildHandler& onChild)
+                       const Progress& onProgress, const ChildHandler& onChild, HiddenEntries hidden)
 {
     const std::string path = normalisedRoot(root);
     const std::string lastComponent = Paths::lastComponent(path);
@@ -293,7 +294,7 @@ DiskNode scanStreaming(const std::string& root, const std::shared_ptr<CancelToke
     if (descriptor < 0)
         return emptyFolder(prefix, name);
 
-    TreeGatherer gatherer(path, token.get(), onProgress, onChild);
+    TreeGatherer gatherer(path, token.get(), onProgress, onChild, hidden);
     DirectoryWalker::walkDescriptor(descriptor, gatherer);
     close(descriptor);
     OpenFolder& top = gatherer.finish();

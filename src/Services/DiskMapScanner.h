@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Models/DiskNode.h"
+#include "Platform/PlatformProfile.h"
 #include "Services/CancelToken.h"
 
 #include <cstdint>
@@ -9,14 +10,24 @@
 #include <string>
 #include <vector>
 
-// Walks one folder into a tree of DiskNode for the disk map. Hidden entries are left out, links
-// are never followed (a link is measured as the small file it is), and a file with several hard
-// links counts once per link. Each folder keeps its 60 largest entries of at least 0.4 % of its
-// size; the rest hang below one "(smaller items)" node at the end of its children.
+// Walks one folder into a tree of DiskNode for the disk map. Links are never followed (a link is
+// measured as the small file it is), and a file with several hard links counts once per link.
+// Each folder keeps its 60 largest entries of at least 0.4 % of its size; the rest hang below one
+// "(smaller items)" node at the end of its children.
 namespace DiskMapScanner {
 
 using Progress = std::function<void(std::int64_t bytesSeen)>;
 using ChildHandler = std::function<void(const DiskNode& entry)>;
+
+// Whether entries whose names begin with "." are walked. A Mac keeps the space apps use in
+// ~/Library, in plain sight, and its map leaves hidden entries out; a Linux desktop keeps it in
+// dot-folders (~/.cache, ~/.local/share, ~/.var/app), which a map must show to be any use.
+enum class HiddenEntries { skipped, included };
+
+constexpr HiddenEntries hiddenEntriesOn(PlatformProfile profile)
+{
+    return profile == PlatformProfile::macOS ? HiddenEntries::skipped : HiddenEntries::included;
+}
 
 // Blocks until the walk ends; the caller puts it on a background thread. Both callbacks run on
 // that thread and must not block it. `onProgress` gets the bytes seen so far as folders finish,
@@ -28,7 +39,8 @@ using ChildHandler = std::function<void(const DiskNode& entry)>;
 // empty folder, and a cancelled scan returns what it gathered, with every folder's size the sum
 // of what it holds (the caller is expected to drop it).
 DiskNode scanStreaming(const std::string& root, const std::shared_ptr<CancelToken>& token,
-                       const Progress& onProgress, const ChildHandler& onChild);
+                       const Progress& onProgress, const ChildHandler& onChild,
+                       HiddenEntries hidden = hiddenEntriesOn(currentPlatformProfile()));
 
 // The folding rule, given a folder's entries largest first and its size: entries from the 61st
 // on, and those below 0.4 % of `parentTotal` (truncated to whole bytes), move below one

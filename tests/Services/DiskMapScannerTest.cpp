@@ -1,4 +1,5 @@
 #include "Services/DiskMapScanner.h"
+#include "Services/Scanner.h"
 
 #include "Platform/FileSystem.h"
 #include "Support/DroppedCapabilities.h"
@@ -159,13 +160,14 @@ TEST_F(DiskMapScannerTest, MeasuresWhatIsThereWithoutFollowingLinksOrHiddenEntri
     tempHome.writeFile("root/Tool.app/readme.txt", std::string(100, 'x'));
 
     std::vector<DiskNode> streamed;
-    const DiskNode root = scan(path("root"), std::make_shared<CancelToken>(), {},
-                               [&](const DiskNode& node) { streamed.push_back(node); });
+    const DiskNode root = DiskMapScanner::scanStreaming(
+        path("root"), std::make_shared<CancelToken>(), {}, [&](const DiskNode& node) { streamed.push_back(node); },
+        DiskMapScanner::hiddenEntriesOn(PlatformProfile::macOS));
 
     std::map<std::string, DiskNode> byName;
     for (const auto& node : streamed)
         byName.emplace(node.name(), node);
-    EXPECT_EQ(byName.size(), 5u) << "hidden entries are neither measured nor shown";
+    EXPECT_EQ(byName.size(), 5u) << "on a Mac hidden entries are neither measured nor shown";
     const DiskNode& link = byName.at("linkToBig");
     EXPECT_FALSE(link.isDirectory());
     EXPECT_TRUE(link.children().empty());
@@ -182,6 +184,27 @@ TEST_F(DiskMapScannerTest, MeasuresWhatIsThereWithoutFollowingLinksOrHiddenEntri
     EXPECT_EQ(root.id(), path("root"));
     EXPECT_EQ(root.name(), "root");
     EXPECT_EQ(scan("~/root/").id(), path("root")) << "a root with ~ has its id spelled out";
+}
+
+TEST_F(DiskMapScannerTest, OnALinuxDesktopHiddenEntriesAreMappedLikeAnyOther)
+{
+    tempHome.writeFile("root/.cache/thumbnails/normal/a.png", std::string(30000, 'x'));
+    tempHome.writeFile("root/.local/share/game/data.pak", std::string(60000, 'x'));
+    tempHome.writeFile("root/.dotfile", std::string(9000, 'x'));
+    tempHome.writeFile("root/visible.txt", std::string(4000, 'x'));
+    ASSERT_EQ(DiskMapScanner::hiddenEntriesOn(PlatformProfile::linuxDesktop), DiskMapScanner::HiddenEntries::included);
+
+    const DiskNode root = DiskMapScanner::scanStreaming(path("root"), std::make_shared<CancelToken>(), {}, {},
+                                                        DiskMapScanner::HiddenEntries::included);
+
+    std::vector<std::string> names;
+    for (const auto& child : root.children())
+        names.push_back(std::string(child.name()));
+    EXPECT_THAT(names, ElementsAre(".local", ".cache", ".dotfile", "visible.txt"));
+    EXPECT_EQ(root.size(), Scanner::directorySize(path("root")));
+    const DiskNode& cache = root.children()[1];
+    ASSERT_EQ(cache.children().size(), 1u);
+    EXPECT_EQ(cache.children()[0].id(), path("root/.cache/thumbnails"));
 }
 
 TEST_F(DiskMapScannerTest, ReportsProgressBeforeEachStreamedFolder)

@@ -168,7 +168,7 @@ FocusScope {
                 objectName: "tooltipDetail"
                 width: Math.min(implicitWidth, 162)
                 elide: Text.ElideRight
-                text: area.hoveredNode ? area.hoveredNode.sizeText + " · " + area.hoveredNode.categoryLabel : ""
+                text: area.hoveredNode ? area.hoveredNode.summary : ""
                 font: Theme.caption2
                 color: Theme.secondary
             }

@@ -36,13 +36,35 @@ Item {
         ColumnLayout {
             Layout.fillWidth: true
             spacing: 1
-            Label {
-                objectName: "detailName"
+            // The name, and beside it a note for a dot-folder the file manager doesn't show.
+            Item {
                 Layout.fillWidth: true
-                text: bar.node.name ?? ""
-                elide: Text.ElideMiddle
-                font: Qt.font({ pixelSize: Theme.callout.pixelSize, weight: Font.Medium })
-                color: Theme.primary
+                implicitHeight: nameLabel.implicitHeight
+                // Measured apart from the label, whose own implicit width shrinks once it elides.
+                TextMetrics { id: nameMetrics; font: nameLabel.font; text: nameLabel.text }
+                Label {
+                    id: nameLabel
+                    objectName: "detailName"
+                    width: Math.min(Math.ceil(nameMetrics.advanceWidth) + 1,
+                                    parent.width - (hiddenTag.visible ? hiddenTag.width + 6 : 0))
+                    text: bar.node.name ?? ""
+                    elide: Text.ElideMiddle
+                    font: Qt.font({ pixelSize: Theme.callout.pixelSize, weight: Font.Medium })
+                    color: Theme.primary
+                }
+                Label {
+                    id: hiddenTag
+                    objectName: "detailHidden"
+                    x: nameLabel.width + 6
+                    anchors.verticalCenter: nameLabel.verticalCenter
+                    visible: bar.node.isHidden === true
+                    text: qsTr("Hidden")
+                    leftPadding: 5
+                    rightPadding: 5
+                    font: Theme.caption2
+                    color: Theme.secondary
+                    background: Rectangle { radius: 4; color: Theme.faintFill; border.color: Theme.separator }
+                }
             }
             Label {
                 objectName: "detailPath"

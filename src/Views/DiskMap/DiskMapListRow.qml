@@ -25,7 +25,7 @@ Item {
     implicitHeight: 40
     Accessible.role: Accessible.ListItem
     Accessible.name: accessibleLabel
-    Accessible.description: canZoom ? accessibleValue + ". " + qsTr("Double-tap to open") : accessibleValue
+    Accessible.description: canZoom ? accessibleValue + ". " + DesktopWords.openFolderHint : accessibleValue
     Accessible.selected: selected
 
     Rectangle {

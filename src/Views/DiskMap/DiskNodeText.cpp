@@ -51,6 +51,19 @@ QString displayId(const DiskNode& node)
     return toQt(Paths::abbreviatingWithTilde(node.id()));
 }
 
+bool isHidden(const DiskNode& node)
+{
+    return !node.isSynthetic() && node.name().starts_with('.');
+}
+
+QString summary(const DiskNode& node)
+{
+    QString text = toQt(ByteCountFormatter::string(node.size())) + QStringLiteral(" · ") + categoryLabel(node);
+    if (isHidden(node))
+        text += QStringLiteral(" · ") + QCoreApplication::translate("DiskMap", "hidden");
+    return text;
+}
+
 QVariantMap describe(const DiskNode& node)
 {
     return {
@@ -62,10 +75,12 @@ QVariantMap describe(const DiskNode& node)
         {QStringLiteral("sizeText"), toQt(ByteCountFormatter::string(node.size()))},
         {QStringLiteral("isDirectory"), node.isDirectory()},
         {QStringLiteral("isSynthetic"), node.isSynthetic()},
+        {QStringLiteral("isHidden"), isHidden(node)},
         {QStringLiteral("canZoom"), node.isDirectory() && !node.children().empty()},
         {QStringLiteral("category"), toQt(std::string(FileCategories::rawValue(node.category())))},
         {QStringLiteral("categoryLabel"), categoryLabel(node)},
         {QStringLiteral("kind"), kind(node)},
+        {QStringLiteral("summary"), summary(node)},
     };
 }
 

@@ -17,9 +17,13 @@ QString categoryLabel(const DiskNode& node);
 QString kind(const DiskNode& node);
 // The path with the home folder shown as "~".
 QString displayId(const DiskNode& node);
+// A dot-name the file manager hides; where the map shows such entries it says so.
+bool isHidden(const DiskNode& node);
+// The tooltip's second line: the size and the category, then "hidden" for a hidden entry.
+QString summary(const DiskNode& node);
 
 // Everything a view shows of a node: {id, displayId, name, labelledName, size, sizeText,
-// isDirectory, isSynthetic, canZoom, categoryLabel, kind}.
+// isDirectory, isSynthetic, isHidden, canZoom, categoryLabel, kind, summary}.
 QVariantMap describe(const DiskNode& node);
 
 }  // namespace DiskNodeText

@@ -1,6 +1,7 @@
 import QtQuick
 import QtTest
 import Mopwell
+import "../LinuxHome.js" as LinuxHome
 
 TestCase {
     id: testCase
@@ -102,7 +103,7 @@ TestCase {
         // A row's texts for assistive technology.
         const first = list.itemAtIndex(0)
         compare(first.Accessible.name, "Videos, folder")
-        verify(first.Accessible.description.endsWith("percent. Double-tap to open"))
+        verify(first.Accessible.description.endsWith("percent. " + DesktopWords.openFolderHint))
 
         // Hovering tells what lies under the pointer.
         const photo = centreOf(canvas, indexNamed(window, "photo.jpg"))
@@ -127,6 +128,35 @@ TestCase {
         keyClick(Qt.Key_Escape)
         compare(window.diskMap.breadcrumb.length, 1)
         compare(list.count, 4)
+    }
+
+    // A Linux home keeps its app data in dot-folders: the map shows them, and says they're hidden.
+    function test_hiddenFoldersAreMappedAndMarkedAsHidden() {
+        const window = open(support.freshModel())
+        LinuxHome.seed(support)
+        support.writeFile("Documents/report.pdf", 2000000)
+        const canvas = scanned(window, support.home)
+        const names = window.diskMap.children.map(node => node.name)
+        verify(names.indexOf(".cache") >= 0 && names.indexOf(".mozilla") >= 0, names)
+
+        const cache = centreOf(canvas, indexNamed(window, ".cache"))
+        mouseMove(canvas, cache.x - 2, cache.y - 2)
+        wait(50)
+        mouseMove(canvas, cache.x, cache.y)
+        tryVerify(() => child(window, "mapTooltip").visible)
+        verify(child(window, "tooltipDetail").text.endsWith(" · hidden"), child(window, "tooltipDetail").text)
+        mouseClick(canvas, cache.x, cache.y)
+        compare(child(window, "detailName").text, ".cache")
+        verify(child(window, "detailHidden").visible)
+        waitForRendering(window.contentItem)
+        verify(support.saveScreenshot(window.contentItem, "diskmap-hidden"))
+
+        const documents = centreOf(canvas, indexNamed(window, "Documents"))
+        mouseMove(canvas, documents.x, documents.y)
+        mouseClick(canvas, documents.x, documents.y)
+        compare(child(window, "detailName").text, "Documents")
+        verify(!child(window, "detailHidden").visible)
+        verify(!child(window, "tooltipDetail").text.endsWith(" · hidden"))
     }
 
     function test_keysMoveTheSelectionAndReturnOnlyEntersFolders() {
