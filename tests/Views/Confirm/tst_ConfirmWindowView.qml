@@ -1,6 +1,7 @@
 import QtQuick
 import QtTest
 import Mopwell
+import "../LinuxHome.js" as LinuxHome
 
 TestCase {
     id: testCase
@@ -21,7 +22,7 @@ TestCase {
     // A model waiting to clean the logs folder, which holds one file.
     function modelWithPendingLogs(knownSize) {
         const model = support.freshModel()
-        support.writeFile("Library/Logs/a.log", 5000)
+        support.writeFile(".local/share/xorg/Xorg.0.log.old", 5000)
         support.setSize(model, "logs", knownSize)
         model.requestCleanOf("logs")
         verify(model.hasPendingClean)
@@ -60,14 +61,14 @@ TestCase {
     function test_aSingleTargetShowsWhatGoesAndWhy() {
         const window = open(modelWithPendingLogs(5000))
         compare(window.title, "Confirm Cleanup")
-        compare(child(window, "confirmTitle").text, "Clean App & system logs")
+        compare(child(window, "confirmTitle").text, "Clean Display server logs")
         compare(child(window, "confirmSize").text, "Frees about 5 KB. This data regenerates automatically.")
         compare(child(window, "confirmWhySafeText").text,
                 "Old diagnostic logs. Apps write fresh ones as needed — nothing you use is lost.")
         compare(child(window, "confirmCount").text, "1 item")
         compare(child(window, "confirmList").height, 37)
         const row = child(window, "confirmList").itemAtIndex(0)
-        compare(findChild(row, "confirmItemLabel").text, support.home + "/Library/Logs")
+        compare(findChild(row, "confirmItemLabel").text, support.home + "/.local/share/xorg")
         verify(!findChild(row, "confirmItemSize").visible)
         // Developer mode is off: no way around the Trash.
         verify(!child(window, "confirmPermanent").visible)
@@ -83,7 +84,7 @@ TestCase {
 
     function test_anUnknownSizeLeavesOutTheSizeLine() {
         const window = open(modelWithPendingLogs(-1))
-        compare(child(window, "confirmTitle").text, "Clean App & system logs")
+        compare(child(window, "confirmTitle").text, "Clean Display server logs")
         verify(!child(window, "confirmSize").visible)
         verify(child(window, "confirmWhySafe").visible)
         verify(support.saveScreenshot(window.contentItem, "confirm-nosize"))
@@ -141,9 +142,11 @@ TestCase {
 
     function test_developerModeOffersToSkipTheTrashForThisCleanOnly() {
         const model = support.freshModel()
-        support.writeFile("Library/Logs/a.log", 5000)
-        support.setSize(model, "logs", 5000)
+        LinuxHome.seed(support)
         model.settings.developerMode = true
+        model.rebuildTargets()
+        model.rescan()
+        tryVerify(() => !model.isScanning, 10000)
         model.requestCleanAll()
         const window = open(model)
         const count = model.pendingClean.items.length
@@ -168,7 +171,7 @@ TestCase {
         tryCompare(window, "visible", false)
         verify(!model.hasPendingClean)
         tryVerify(() => model.statusMessage.startsWith("Freed"), 10000)
-        compare(support.countEntries(support.home + "/Library/Logs"), 0)
+        compare(support.countEntries(support.home + "/.local/share/xorg"), 0)
         // Gone for good, and the Trash setting itself is left as it was.
         compare(trashedCount(), 0)
         verify(model.settings.moveToTrash)
@@ -203,7 +206,7 @@ TestCase {
         tryCompare(window, "visible", false)
         verify(!model.hasPendingClean)
         tryVerify(() => model.statusMessage.startsWith("Freed"), 10000)
-        compare(support.countEntries(support.home + "/Library/Logs"), 0)
+        compare(support.countEntries(support.home + "/.local/share/xorg"), 0)
         // Without the permanent choice a clean goes to the Trash.
         verify(trashedCount() > 0)
     }
@@ -224,7 +227,7 @@ TestCase {
         tryCompare(window, "visible", false)
         verify(!model.hasPendingClean)
         wait(50)
-        compare(support.countEntries(support.home + "/Library/Logs"), 1)
+        compare(support.countEntries(support.home + "/.local/share/xorg"), 1)
         compare(model.statusMessage, "")
     }
 

@@ -1,6 +1,7 @@
 import QtQuick
 import QtTest
 import Mopwell
+import "../LinuxHome.js" as LinuxHome
 
 TestCase {
     id: test
@@ -11,9 +12,12 @@ TestCase {
     Component { id: confirmComponent; ConfirmWindowView {} }
     SignalSpy { id: windowRequests; target: Shell; signalName: "windowRequested" }
 
-    // A panel over a fresh model with a known disk and a few measured targets.
-    function makePanel(developerMode) {
+    // A panel over a fresh model with a known disk, its first scan done; over the caches of a
+    // Linux home when `seeded`.
+    function makePanel(developerMode, seeded) {
         const model = support.freshModel()
+        if (seeded)
+            LinuxHome.seed(support)
         model.settings.developerMode = developerMode
         model.rebuildTargets()
         const panel = createTemporaryObject(panelComponent, null, { model: model })
@@ -69,14 +73,13 @@ TestCase {
         support.setSize(model, "trash", 1e8)
         compare(textOf(panel, "reclaimable"), "2.6 GB")
         verify(findChild(panel, "cleanUp").enabled)
-        verify(support.saveScreenshot(panel.contentItem, "panel-simple"))
 
         const groups = findChild(panel, "groups")
         const firstCheck = findChild(groups, "include")      // "System & app caches"
         mouseClick(firstCheck)
         compare(textOf(panel, "reclaimable"), "600 MB")
         verify(!model.isGroupEnabledById("syscaches"))
-        compare(model.settings.disabledTargetIDs, ["appcaches", "logs", "maildownloads"])
+        compare(model.settings.disabledTargetIDs, ["appcaches", "logs", "thumbnails"])
         mouseClick(firstCheck)
         compare(textOf(panel, "reclaimable"), "2.6 GB")
     }
@@ -96,11 +99,36 @@ TestCase {
         const list = findChild(panel, "targets")
         compare(list.height, 360)                               // far more than fits: it scrolls
         verify(list.contentHeight > 360)
+    }
+
+    // What a Linux user sees first: every group measured from the home's own folders, and the
+    // developer list beside it.
+    function test_aLinuxHomeIsMeasuredGroupByGroup() {
+        const panel = makePanel(false, true)
+        const model = panel.model
+        const sizes = []
+        const column = findChild(panel, "groups")
+        for (let i = 0; i < column.children.length; ++i) {
+            const size = findChild(column.children[i], "size")
+            if (size)
+                sizes.push(size.text)
+        }
+        compare(sizes.length, 3)                                // caches, browsers, Trash
+        for (const text of sizes)
+            verify(text !== "Zero KB" && text !== "—", text)
+        verify(textOf(panel, "reclaimable").endsWith(" MB"))
+        verify(support.saveScreenshot(panel.contentItem, "panel-simple"))
+
+        model.settings.developerMode = true
+        model.rebuildTargets()
+        model.rescan()
+        tryVerify(() => !model.isScanning, 10000)
+        waitForRendering(panel.contentItem)
         verify(support.saveScreenshot(panel.contentItem, "panel-developer"))
     }
 
     function test_theInfoButtonSaysWhyARowIsSafeAndWhereItLives() {
-        const panel = makePanel(true)
+        const panel = makePanel(true, true)
         const list = findChild(panel, "targets")
         const appCaches = list.itemAtIndex(1)                   // "App cache files"
         const info = findChild(appCaches, "info")
@@ -126,12 +154,9 @@ TestCase {
     }
 
     function test_cleanUpGoesThroughTheConfirmationIntoTheTrash() {
-        const panel = makePanel(false)
+        const panel = makePanel(false, true)
         const model = panel.model
-        support.writeFile("Library/Logs/app/today.log", 40000)
-        support.writeFile("Library/Caches/browser/blob.bin", 90000)
-        model.rescan()
-        tryVerify(() => !model.isScanning && findChild(panel, "cleanUp").enabled, 10000)
+        tryVerify(() => findChild(panel, "cleanUp").enabled, 10000)
 
         windowRequests.clear()
         mouseClick(findChild(panel, "cleanUp"))
@@ -146,9 +171,13 @@ TestCase {
         mouseClick(findChild(confirm, "confirmButton"))
         tryVerify(() => textOf(panel, "statusText").startsWith("Freed"), 10000)
         verify(/^Freed .+ total$/.test(textOf(panel, "statusText")))
-        compare(support.countEntries(support.home + "/Library/Logs"), 0)
-        compare(support.countEntries(support.home + "/Library/Caches"), 0)
-        compare(support.countEntries(support.trashFolder() + "/files"), 2)
+        compare(support.countEntries(support.home + "/.local/share/xorg"), 0)
+        compare(support.countEntries(support.home + "/.cache/thumbnails"), 0)
+        compare(support.countEntries(support.home + "/.cache/mozilla/firefox"), 0)
+        // The old Trash is emptied for good, and the caches take its place.
+        verify(support.countEntries(support.trashFolder() + "/files") >= 6)
+        compare(support.countEntries(support.home + "/.mozilla/firefox/k3x9q2z1.default-release"), 2)
+        compare(support.countEntries(support.home + "/.npm/_cacache"), 1)
         verify(findChild(panel, "status").visible)
         verify(support.saveScreenshot(panel.contentItem, "panel-after-clean"))
     }
