@@ -10,6 +10,7 @@
 //                                  the duplicate scan's final result: the largest files, then
 //                                  the groups of copies (digest, size, paths in walk order);
 //                                  --reference hashes every candidate in full on one thread,
+//                                  with no ends read first and no copies compared byte by byte,
 //                                  --stats adds the stage timings and bytes hashed on stderr
 
 #include "Models/DiskNode.h"
@@ -173,7 +174,7 @@ int printDuplicates(const std::string& path, const std::vector<std::string>& fla
     DuplicateScanner::Options options;
     options.counters = &counters;
     if (reference)
-        options.hashing = {.setAsideByEnds = false, .threads = 1};
+        options.hashing = {.setAsideByEnds = false, .compareWithFirst = false, .threads = 1};
     using Clock = std::chrono::steady_clock;
     const auto start = Clock::now();
     std::optional<Clock::time_point> walked;
@@ -194,11 +195,12 @@ int printDuplicates(const std::string& path, const std::vector<std::string>& fla
         printText(final);
     if (stats) {
         const std::chrono::duration<double> walk = walked.value_or(end) - start, hashing = end - walked.value_or(end);
-        std::fprintf(stderr, "files %lld\twalk %.3f s\thashing %.3f s\thashed %lld files, %lld bytes\tset aside %lld\n",
+        std::fprintf(stderr, "files %lld\twalk %.3f s\thashing %.3f s\thashed %lld files, %lld bytes\tset aside %lld\tcompared %lld\n",
                      static_cast<long long>(files), walk.count(), hashing.count(),
                      static_cast<long long>(counters.filesHashed.load()),
                      static_cast<long long>(counters.bytesHashed.load()),
-                     static_cast<long long>(counters.filesSetAside.load()));
+                     static_cast<long long>(counters.filesSetAside.load()),
+                     static_cast<long long>(counters.filesCompared.load()));
     }
     return 0;
 }

@@ -18,6 +18,10 @@ struct Options {
     // Leaves unread a file whose length or first or last block matches no other file of the
     // bucket: nothing can be a copy of it, so its digest could never join a group.
     bool setAsideByEnds = true;
+    // Hashes only the first of the files that may be copies of each other and compares the rest
+    // with it byte by byte, which reads faster than it hashes; a file that differs is hashed
+    // itself. Equal bytes have equal digests, so every file gets the digest hashing would give.
+    bool compareWithFirst = true;
     // Files hashed at once; 0 means one per core, at most four.
     unsigned threads = 0;
 };
@@ -27,6 +31,7 @@ struct Counters {
     std::atomic<std::int64_t> filesHashed{0};
     std::atomic<std::int64_t> bytesHashed{0};
     std::atomic<std::int64_t> filesSetAside{0};
+    std::atomic<std::int64_t> filesCompared{0};
 };
 
 // Fills `digests` with one entry per file of `files`: its SHA-256, or none when it can't be read

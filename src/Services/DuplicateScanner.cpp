@@ -74,12 +74,8 @@ private:
 // An absolute path without trailing slashes: "/" becomes "", so that children read "/name".
 std::string walkPrefix(const std::string& root)
 {
-    std::string path = Paths::expandingTilde(root);
-    if (path.empty() || path.front() != '/') {
-        std::error_code error;
-        const auto current = std::filesystem::current_path(error);
-        path = (error ? std::string("/") : current.string()) + "/" + path;
-    }
+    std::error_code error;
+    std::string path = std::filesystem::absolute(Paths::expandingTilde(root), error).string();
     while (!path.empty() && path.back() == '/')
         path.pop_back();
     return path;

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cerrno>
+#include <cstring>
 #include <fcntl.h>
 #include <memory>
 #include <string_view>
@@ -114,6 +115,25 @@ std::optional<std::string> sha256(const std::string& path)
     if (EVP_DigestFinal_ex(context.get(), digest.data(), &length) != 1)
         return std::nullopt;
     return hexadecimal(digest.data(), length);
+}
+
+bool sameContents(const std::string& first, const std::string& second)
+{
+    const ReadOnlyFile one(first), other(second);
+    if (!one.isOpen() || !other.isOpen() || one.length() != other.length())
+        return false;
+    posix_fadvise(one.descriptor(), 0, 0, POSIX_FADV_SEQUENTIAL);
+    posix_fadvise(other.descriptor(), 0, 0, POSIX_FADV_SEQUENTIAL);
+    thread_local std::vector<unsigned char> left(readChunk), right(readChunk);
+    for (off_t offset = 0;; offset += off_t(readChunk)) {
+        const ssize_t got = readAt(one.descriptor(), left.data(), readChunk, offset);
+        if (got < 0 || readAt(other.descriptor(), right.data(), readChunk, offset) != got)
+            return false;
+        if (got == 0)
+            return true;
+        if (std::memcmp(left.data(), right.data(), std::size_t(got)) != 0)
+            return false;
+    }
 }
 
 std::optional<Ends> ends(const std::string& path)

@@ -16,6 +16,10 @@ inline constexpr std::size_t readChunk = 1'048'576;
 // opened as a regular file or a read fails.
 std::optional<std::string> sha256(const std::string& path);
 
+// Whether the two files hold the same bytes, read side by side; false as soon as they differ,
+// and when either can't be opened as a regular file or read.
+bool sameContents(const std::string& first, const std::string& second);
+
 // The file's length and its first and last blocks, each folded into a number. Two files whose
 // ends differ can't have the same contents; equal ends prove nothing.
 struct Ends {

@@ -158,8 +158,9 @@ protected:
 
 // Both ways of reading must find the same: the plain one hashes everything in full on one thread.
 const std::vector<std::pair<const char*, DuplicateScanner::Options>> readingWays = {
-    {"plain", {{.setAsideByEnds = false, .threads = 1}, nullptr}},
-    {"shortcuts", {{.setAsideByEnds = true, .threads = 3}, nullptr}},
+    {"plain", {{.setAsideByEnds = false, .compareWithFirst = false, .threads = 1}, nullptr}},
+    {"shortcuts", {{.setAsideByEnds = true, .compareWithFirst = true, .threads = 3}, nullptr}},
+    {"compared, ends unread", {{.setAsideByEnds = false, .compareWithFirst = true, .threads = 2}, nullptr}},
 };
 
 TEST_F(DuplicateScannerTest, FindsCopiesStageByStageWhateverTheWayOfReading)
@@ -180,7 +181,10 @@ TEST_F(DuplicateScannerTest, FindsCopiesStageByStageWhateverTheWayOfReading)
     // contents each with its own copy.
     write("tree/d/first.bin", contents(2 * MB, 2, 0));
     write("tree/d/last.bin", contents(2 * MB, 2, 2 * MB - 1));
-    write("tree/d/middle.bin", contents(2 * MB, 2, MB));
+    // The one in the middle has a copy: it differs from the first copy it is compared with, yet
+    // still finds its twin.
+    const std::string m1 = write("tree/d/middle.bin", contents(2 * MB, 2, MB));
+    const std::string m2 = write("tree/d/middle2.bin", contents(2 * MB, 2, MB));
     const std::string other = contents(MB + 5000, 3);
     const std::string e1 = write("tree/e1.bin", other), e2 = write("tree/e2.bin", other);
     const std::string f1 = write("tree/f1.bin", contents(MB + 5000, 4));
@@ -194,12 +198,12 @@ TEST_F(DuplicateScannerTest, FindsCopiesStageByStageWhateverTheWayOfReading)
     std::optional<Calls> first;
     for (const auto& [way, options] : readingWays) {
         const Calls run = scan(path("tree"), options);
-        ASSERT_EQ(run.progress, std::vector<std::int64_t>{15}) << way;
+        ASSERT_EQ(run.progress, std::vector<std::int64_t>{16}) << way;
         // The largest right after the walk; then one picture per size with copies, largest
-        // size first (3 MB, 2 MB, 1.3 MB, 1.005 MB); then the final one.
+        // size first (3 MB, 2 MB with two groups, 1.3 MB, 1.005 MB); then the final one.
         ASSERT_EQ(run.results.size(), 6u) << way;
         const FileScanResult& walked = run.results[0];
-        EXPECT_EQ(walked.largest.size(), 15u);
+        EXPECT_EQ(walked.largest.size(), 16u);
         EXPECT_EQ(walked.largest.front().size, TreeBuilder::allocatedSize(a));
         EXPECT_EQ(walked.largest.back().path, path("tree/tiny.txt"));
         EXPECT_TRUE(walked.duplicates.empty());
@@ -209,18 +213,19 @@ TEST_F(DuplicateScannerTest, FindsCopiesStageByStageWhateverTheWayOfReading)
         for (const FileScanResult& result : run.results)
             counts.push_back(result.duplicates.size());
         // Two contents in one size, each with a copy, arrive together in one picture.
-        EXPECT_THAT(counts, ElementsAre(0, 1, 2, 3, 5, 5)) << way;
+        EXPECT_THAT(counts, ElementsAre(0, 1, 3, 4, 6, 6)) << way;
 
         const auto& final = run.results.back().duplicates;
-        ASSERT_EQ(final.size(), 5u) << way;
+        ASSERT_EQ(final.size(), 6u) << way;
         EXPECT_THAT(pathsOf(final[0].files), UnorderedElementsAre(c1, c2, c3));
         EXPECT_THAT(pathsOf(final[1].files), UnorderedElementsAre(a, b));
         EXPECT_EQ(final[1].id, FileDigest::sha256(a));
         EXPECT_EQ(final[1].size, TreeBuilder::allocatedSize(a));
-        EXPECT_THAT(pathsOf(final[2].files), UnorderedElementsAre(h1, h2));
-        EXPECT_EQ(final[3].size, final[4].size);
-        EXPECT_EQ((std::set<std::string>{final[3].files[0].path, final[4].files[0].path, final[3].files[1].path,
-                                         final[4].files[1].path}),
+        EXPECT_THAT(pathsOf(final[2].files), UnorderedElementsAre(m1, m2));
+        EXPECT_THAT(pathsOf(final[3].files), UnorderedElementsAre(h1, h2));
+        EXPECT_EQ(final[4].size, final[5].size);
+        EXPECT_EQ((std::set<std::string>{final[4].files[0].path, final[5].files[0].path, final[4].files[1].path,
+                                         final[5].files[1].path}),
                   (std::set<std::string>{e1, e2, f1, f2}));
         // Members keep walk order, which equal sizes also keep among the largest.
         const std::vector<std::string> walkOrder = pathsOf(walked.largest);
