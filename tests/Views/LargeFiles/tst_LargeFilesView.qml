@@ -8,6 +8,8 @@ TestCase {
     when: windowShown
 
     Component { id: windowComponent; LargeFilesView {} }
+    Component { id: panelComponent; MenuPanelView {} }
+    SignalSpy { id: windowRequests; target: Shell; signalName: "windowRequested" }
 
     // Every file of one size has the same bytes here, so equal sizes are copies: three copies of
     // a film, two of a disk image, and three files of their own.
@@ -151,12 +153,20 @@ TestCase {
                 "Duplicates are byte-identical copies — unique files don't appear here.")
     }
 
-    function test_thePanelChoosesTheListTheWindowShows() {
+    function test_thePanelsToolsOpenTheWindowOnTheirList() {
         const model = support.freshModel()
-        model.largeFilesTab = 1
+        const panel = createTemporaryObject(panelComponent, null, { model: model })
+        panel.show()
+        waitForRendering(panel.contentItem)
+        windowRequests.clear()
+        mouseClick(child(panel.contentItem, "tool-doc.on.doc"))
+        compare(windowRequests.count, 1)
+        compare(windowRequests.signalArguments[0][0], "largefiles")
         const window = open(model)
         compare(window.tab, 1)
-        model.largeFilesTab = 0
+        // Already open, the window follows the other button too.
+        mouseClick(child(panel.contentItem, "tool-doc.text.magnifyingglass"))
+        compare(windowRequests.signalArguments[1][0], "largefiles")
         compare(window.tab, 0)
     }
 }
