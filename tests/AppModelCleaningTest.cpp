@@ -28,7 +28,7 @@ std::string readAll(const std::string& path)
 class AppModelCleaningTest : public ModelFixture {
 protected:
     std::string H = tempHome.home();
-    std::string logs = H + "/Library/Logs";
+    std::string logs = H + "/.local/share/xorg";
 
     void seedLogs()
     {
@@ -59,7 +59,7 @@ TEST_F(AppModelCleaningTest, ACleanGoesToTheTrashIsRecordedAndCanBePutBack)
 
     model->requestClean("logs");
     ASSERT_TRUE(model->pendingClean().has_value());
-    EXPECT_EQ(model->pendingClean()->title, "App & system logs");
+    EXPECT_EQ(model->pendingClean()->title, "Display server logs");
     EXPECT_EQ(model->pendingClean()->kind, PendingClean::Kind(PendingClean::Single{"logs"}));
     EXPECT_EQ(model->pendingClean()->items, (std::vector<ConfirmItem>{{logs, std::nullopt}}));
     EXPECT_TRUE(model->pendingClean()->sizeText.has_value());
@@ -69,7 +69,7 @@ TEST_F(AppModelCleaningTest, ACleanGoesToTheTrashIsRecordedAndCanBePutBack)
     ASSERT_TRUE(waitUntil([&] { return !model->statusMessage().isEmpty(); }));
 
     EXPECT_EQ(model->statusMessage(), "Freed " + QString::fromStdString(ByteCountFormatter::string(sizeBefore)) +
-                                          " from App & system logs");
+                                          " from Display server logs");
     EXPECT_TRUE(fs::is_directory(logs));
     EXPECT_TRUE(fs::is_empty(logs));
     EXPECT_EQ(state("logs")->size, 0);  // measured again after the clean
@@ -77,7 +77,7 @@ TEST_F(AppModelCleaningTest, ACleanGoesToTheTrashIsRecordedAndCanBePutBack)
     EXPECT_EQ(trashInfoFiles().size(), 3u);
     ASSERT_EQ(model->history().size(), 1u);
     const CleanRecord record = model->history().front();
-    EXPECT_EQ(record.targetName, "App & system logs");
+    EXPECT_EQ(record.targetName, "Display server logs");
     EXPECT_EQ(record.freed, sizeBefore);
     EXPECT_TRUE(record.trashed);
     ASSERT_TRUE(record.items.has_value());
@@ -95,7 +95,7 @@ TEST_F(AppModelCleaningTest, ACleanGoesToTheTrashIsRecordedAndCanBePutBack)
     EXPECT_TRUE(trashInfoFiles().empty());
     EXPECT_EQ(model->history().front().restored, true);
     EXPECT_EQ(model->totalFreedAllTime(), 0);
-    EXPECT_EQ(model->statusMessage(), "Restored App & system logs");
+    EXPECT_EQ(model->statusMessage(), "Restored Display server logs");
     EXPECT_EQ(CleanHistoryStore::load(DefaultsStore(defaultsPath())).history.front().restored, true);
 
     // A second restore of the same record changes nothing.
@@ -132,11 +132,11 @@ TEST_F(AppModelCleaningTest, APermanentCleanSkipsTheTrashButKeepsTheRowFlag)
 
 TEST_F(AppModelCleaningTest, CleanAllRequestListsEnabledTargetsBySize)
 {
-    TreeBuilder::writeFile(H + "/Library/Caches/big.bin", 90'000);
+    TreeBuilder::writeFile(H + "/.cache/big.bin", 90'000);
     seedLogs();
     QCoro::waitFor(model->scanAll());
     settings.setEnabled(false, "chrome");
-    AppModelTestAccess::setSize(*model, "safari", std::nullopt);
+    AppModelTestAccess::setSize(*model, "chromium", std::nullopt);
 
     model->requestCleanAll();
     const PendingClean& pending = *model->pendingClean();
@@ -149,16 +149,16 @@ TEST_F(AppModelCleaningTest, CleanAllRequestListsEnabledTargetsBySize)
     for (const auto& item : pending.items)
         labels.push_back(item.label);
     // Largest first; equal sizes keep list order; unknown sizes count as 0; chrome is disabled.
-    EXPECT_THAT(labels, ElementsAre("App cache files", "App & system logs", "Trash", "Mail attachment previews",
-                                    "Safari cache", "Firefox cache"));
+    EXPECT_THAT(labels, ElementsAre("App cache files", "Display server logs", "Trash", "Thumbnails", "Chromium cache",
+                                    "Firefox cache"));
     EXPECT_EQ(pending.items[4].size, std::nullopt);
 }
 
 TEST_F(AppModelCleaningTest, CleanAllCleansEnabledTargetsInListOrder)
 {
     seedLogs();
-    TreeBuilder::writeFile(H + "/Library/Caches/big.bin", 40'000);
-    const std::string chromeCache = H + "/Library/Application Support/Google/Chrome/Default/Cache/data";
+    TreeBuilder::writeFile(H + "/.cache/big.bin", 40'000);
+    const std::string chromeCache = H + "/.cache/google-chrome/Default/Cache/data";
     TreeBuilder::writeFile(chromeCache, 4'000);
     settings.setEnabled(false, "chrome");
     QCoro::waitFor(model->scanAll());
@@ -176,7 +176,7 @@ TEST_F(AppModelCleaningTest, CleanAllCleansEnabledTargetsInListOrder)
     for (const auto& record : model->history())
         names.push_back(record.targetName);
     // Newest first; targets that freed nothing (the empty Trash) leave no record.
-    EXPECT_THAT(names, ElementsAre("App & system logs", "App cache files"));
+    EXPECT_THAT(names, ElementsAre("Display server logs", "App cache files"));
 }
 
 TEST_F(AppModelCleaningTest, EdgeCasesOfRequests)

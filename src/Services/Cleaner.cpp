@@ -177,13 +177,34 @@ bool isTrashEntry(const std::string& name)
     return name == "files" || name == "info" || name == "expunged" || name == "directorysizes" || name == "metadata";
 }
 
+// Removes the entry `name` of an open folder, except what `excluded` (resolved paths) names: an
+// excluded entry stays, and a folder holding one is opened and cleared around it. Everything
+// still goes through open folders, so the exclusions only ever keep more.
+void removeExcept(const OpenFolder& folder, const std::string& name, const std::vector<std::string>& excluded,
+                  bool moveToTrash, std::vector<TrashedItem>& trashed)
+{
+    const std::string path = Paths::joined(folder.path(), name);
+    if (std::find(excluded.begin(), excluded.end(), path) != excluded.end())
+        return;
+    const bool holdsExcluded =
+        std::any_of(excluded.begin(), excluded.end(), [&](const std::string& kept) { return isInside(kept, path); });
+    const auto inner = holdsExcluded ? OpenFolder::open(path) : std::nullopt;
+    if (!inner) {
+        remove(folder, name, moveToTrash, trashed);
+        return;
+    }
+    for (const auto& child : inner->childNames())
+        removeExcept(*inner, child, excluded, moveToTrash, trashed);
+}
+
 // Clears a folder and leaves the folder itself. The safety test covers the folder named; all its
-// children go with it, links among them removed as links. The folder is opened once, right after
-// the test, and everything is removed through that: a component swapped for a link later on
-// can't lead the removal anywhere else.
+// children go with it, links among them removed as links, apart from the `excluded` paths inside
+// it, which another target owns. The folder is opened once, right after the test, and everything
+// is removed through that: a component swapped for a link later on can't lead the removal
+// anywhere else.
 std::optional<std::string> removeContents(const std::string& path, bool moveToTrash,
                                           std::vector<TrashedItem>& trashed,
-                                          bool isTrashRow = false)
+                                          const std::vector<std::string>& excluded = {}, bool isTrashRow = false)
 {
     const std::string resolved = Paths::resolvingSymlinks(path);
     const bool safe = isSafe(resolved);
@@ -205,9 +226,18 @@ std::optional<std::string> removeContents(const std::string& path, bool moveToTr
         return refused(resolved);  // it became a link, or its path did, after the test
     for (const auto& name : folder->childNames()) {
         if (!ownTrash || isTrashEntry(name))
-            remove(*folder, name, moveToTrash, trashed);
+            removeExcept(*folder, name, excluded, moveToTrash, trashed);
     }
     return std::nullopt;
+}
+
+// The excluded paths as removals see them: "~" expanded and links resolved, as the folders are.
+std::vector<std::string> resolvedAll(const std::vector<std::string>& paths)
+{
+    std::vector<std::string> resolved;
+    for (const auto& path : paths)
+        resolved.push_back(Paths::resolvingSymlinks(Paths::expandingTilde(path)));
+    return resolved;
 }
 
 std::string trimmed(const std::string& text)
@@ -227,13 +257,14 @@ std::int64_t freedBetween(std::int64_t before, std::int64_t after)
 CleanOutcome cleanPaths(const PathsKind& kind, bool moveToTrash, bool isTrashRow)
 {
     CleanOutcome outcome;
-    const std::int64_t before = Scanner::totalSize(kind.paths);
+    const std::int64_t before = Scanner::totalSize(kind.paths, kind.excluded);
+    const auto excluded = resolvedAll(kind.excluded);
     for (const auto& path : kind.paths) {
-        auto message = removeContents(Paths::expandingTilde(path), moveToTrash, outcome.trashed, isTrashRow);
+        auto message = removeContents(Paths::expandingTilde(path), moveToTrash, outcome.trashed, excluded, isTrashRow);
         if (message && !outcome.error)
             outcome.error = std::move(message);
     }
-    outcome.freed = freedBetween(before, Scanner::totalSize(kind.paths));
+    outcome.freed = freedBetween(before, Scanner::totalSize(kind.paths, kind.excluded));
     return outcome;
 }
 

@@ -32,7 +32,7 @@ protected:
     }
     static CleanupTarget builtIn(const std::string& id)
     {
-        for (const auto& target : CleanupCatalog::builtIn()) {
+        for (const auto& target : CleanupCatalog::builtIn(PlatformProfile::macOS)) {
             if (target.id == id)
                 return target;
         }
@@ -81,6 +81,42 @@ TEST_F(CleanerTest, FoldersAreEmptiedIntoTheTrashAndKept)
         EXPECT_TRUE(fs::exists(fs::symlink_status(item.trashPath)));
     }
     EXPECT_EQ(outside({cache}), before);
+}
+
+TEST_F(CleanerTest, ExcludedFoldersStayWhateverLiesAroundThem)
+{
+    const std::string cache = H + "/.cache";
+    TreeBuilder::writeFile(cache + "/pip/wheel.whl", 20'000);
+    TreeBuilder::writeFile(cache + "/mozilla/other/blob", 8'000);
+    TreeBuilder::writeFile(cache + "/mozilla/firefox/p.default/cache2/entry", 30'000);
+    TreeBuilder::writeFile(cache + "/thumbnails/normal/a.png", 6'000);
+    TreeBuilder::writeFile(cache + "/huggingface/token", 40);
+    TreeBuilder::writeFile(cache + "/huggingface/hub/model.bin", 9'000);
+    // A folder on the way to an exclusion that leads elsewhere is only a link: it goes as one.
+    TreeBuilder::writeFile(H + "/Documents/notes/keep.txt", 10);
+    fs::create_directory_symlink(H + "/Documents/notes", cache + "/linked");
+    const CleanupTarget target{"appcaches", "App cache files", "shippingbox.fill", "",
+                               PathsKind{{"~/.cache"},
+                                         {"~/.cache/thumbnails", "~/.cache/mozilla/firefox", "~/.cache/huggingface/token",
+                                          "~/.cache/linked/keep.txt"}},
+                               CleanupCategory::recommended, true};
+    const auto kept = snapshotTree(cache + "/mozilla/firefox");
+    const std::int64_t removable = TreeBuilder::allocatedSize(cache + "/pip/wheel.whl") +
+                                   TreeBuilder::allocatedSize(cache + "/mozilla/other/blob") +
+                                   TreeBuilder::allocatedSize(cache + "/huggingface/hub/model.bin");
+    EXPECT_EQ(Scanner::size(target), removable);
+
+    const CleanOutcome outcome = Cleaner::clean(target, true);
+
+    EXPECT_EQ(outcome.error, std::nullopt);
+    EXPECT_EQ(outcome.freed, removable);
+    EXPECT_THAT(contents(cache), UnorderedElementsAre("mozilla", "thumbnails", "huggingface"));
+    EXPECT_THAT(contents(cache + "/mozilla"), UnorderedElementsAre("firefox"));
+    EXPECT_THAT(contents(cache + "/huggingface"), UnorderedElementsAre("token"));
+    EXPECT_EQ(snapshotTree(cache + "/mozilla/firefox"), kept);
+    EXPECT_TRUE(fs::exists(cache + "/thumbnails/normal/a.png"));
+    EXPECT_TRUE(fs::exists(H + "/Documents/notes/keep.txt"));
+    EXPECT_EQ(Scanner::size(target), 0);
 }
 
 TEST_F(CleanerTest, PermanentRemovalLeavesNothingInTheTrash)
