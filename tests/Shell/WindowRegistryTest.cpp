@@ -125,4 +125,24 @@ TEST_F(WindowRegistryTest, TheApplicationsConfirmationOpensWithItsTitleAndFixedS
     EXPECT_FALSE(confirm->size().isEmpty());
 }
 
+TEST_F(WindowRegistryTest, TheSystemToolsOpenWithTheirTitlesAndFixedSizes)
+{
+    WindowRegistry application(engine, *model, applicationWindows());
+    struct Case {
+        const char* id;
+        const char* title;
+        QSize size;
+    };
+    for (const Case& c : {Case{"snapshots", "Free Up Snapshot Space", {520, 510}},
+                          Case{"appupdates", "App & Tool Updates", {520, 480}},
+                          Case{"startup", "Startup & Background Items", {520, 480}}}) {
+        QQuickWindow* window = application.open(QString::fromLatin1(c.id));
+        ASSERT_NE(window, nullptr) << c.id;
+        EXPECT_EQ(window->title(), QString::fromUtf8(c.title));
+        EXPECT_EQ(window->size(), c.size) << c.id;
+        EXPECT_EQ(window->minimumSize(), window->maximumSize()) << c.id;
+        EXPECT_EQ(application.open(QString::fromLatin1(c.id)), window) << c.id;
+    }
+}
+
 }  // namespace
