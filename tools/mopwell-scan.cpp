@@ -3,9 +3,14 @@
 //
 //   mopwell-scan size PATH         byte total of PATH, as the cleanup targets are measured
 //   mopwell-scan projects ROOT...  one line per build folder found: kind id, bytes, path
-//   mopwell-scan diskmap PATH [--json]
+//   mopwell-scan diskmap PATH [--json] [--profile macos|linux]
 //                                  the disk map's walk of PATH: bytes, items and time taken, or
-//                                  with --json the whole tree as the map holds it
+//                                  with --json the whole tree as the map holds it; hidden entries
+//                                  are in it as the desktop's map shows them (a Mac's map leaves
+//                                  them out)
+//   mopwell-scan targets [--developer] [--json] [--profile macos|linux]
+//                                  the targets the panel lists for the user's settings, measured,
+//                                  and the reclaimable total; reads only
 //   mopwell-scan dups PATH [--json] [--reference] [--stats]
 //                                  the duplicate scan's final result: the largest files, then
 //                                  the groups of copies (digest, size, paths in walk order);
@@ -21,6 +26,7 @@
 #include "Services/DuplicateScanner.h"
 #include "Services/ProjectScanner.h"
 #include "Services/Scanner.h"
+#include "TargetsCommand.h"
 
 #include <nlohmann/json.hpp>
 
@@ -38,7 +44,8 @@ namespace {
 int usage()
 {
     std::fprintf(stderr, "usage: mopwell-scan size PATH\n       mopwell-scan projects ROOT...\n"
-                         "       mopwell-scan diskmap PATH [--json]\n"
+                         "       mopwell-scan diskmap PATH [--json] [--profile macos|linux]\n"
+                         "       mopwell-scan targets [--developer] [--json] [--profile macos|linux]\n"
                          "       mopwell-scan dups PATH [--json] [--reference] [--stats]\n");
     return 2;
 }
@@ -103,14 +110,27 @@ std::int64_t itemCount(const DiskNode& root)
     return count;
 }
 
-int printDiskMap(const std::string& path, bool asJson)
+int printDiskMap(const std::string& path, const std::vector<std::string>& flags)
 {
+    bool asJson = false;
+    PlatformProfile profile = currentPlatformProfile();
+    for (std::size_t i = 0; i < flags.size(); ++i) {
+        const auto named = flags[i] == "--profile" && i + 1 < flags.size() ? platformProfileNamed(flags[++i])
+                                                                            : std::nullopt;
+        if (named)
+            profile = *named;
+        else if (flags[i] == "--json")
+            asJson = true;
+        else
+            return usage();
+    }
     const auto start = std::chrono::steady_clock::now();
     // The tree is left for the operating system to reclaim at exit: freeing it record by record
     // costs a walk over every item, which a command about to end gains nothing from. The pointer
     // stays reachable, so leak checkers don't report it.
     static const DiskNode* const tree =
-        new DiskNode(DiskMapScanner::scanStreaming(path, std::make_shared<CancelToken>(), {}, {}));
+        new DiskNode(DiskMapScanner::scanStreaming(path, std::make_shared<CancelToken>(), {}, {},
+                                                   DiskMapScanner::hiddenEntriesOn(profile)));
     const DiskNode& root = *tree;
     const std::chrono::duration<double> elapsed = std::chrono::steady_clock::now() - start;
     if (asJson) {
@@ -224,13 +244,17 @@ int main(int argc, char** argv)
 {
     if (argc == 2 && (std::strcmp(argv[1], "--help") == 0 || std::strcmp(argv[1], "-h") == 0))
         return help();
+    if (argc >= 2 && std::strcmp(argv[1], "targets") == 0) {
+        const int status = runTargetsCommand(std::vector<std::string>(argv + 2, argv + argc));
+        return status == 2 ? usage() : status;
+    }
     if (argc < 3)
         return usage();
     const std::string command = argv[1];
     if (command == "size" && argc == 3)
         return printSize(argv[2]);
-    if (command == "diskmap" && (argc == 3 || (argc == 4 && std::strcmp(argv[3], "--json") == 0)))
-        return printDiskMap(argv[2], argc == 4);
+    if (command == "diskmap")
+        return printDiskMap(argv[2], std::vector<std::string>(argv + 3, argv + argc));
     if (command == "dups")
         return printDuplicates(argv[2], std::vector<std::string>(argv + 3, argv + argc));
     if (command == "projects")
