@@ -25,6 +25,15 @@ constexpr auto wholeIdFlag = Flag::wholeIdFlag;
 // constructor, which moves it into the prefix instead.
 constexpr std::size_t maxInlineText = 0xffff;
 
+// Copies `from` to `to` and returns the end of the copy. An empty view may have no data at all,
+// and memcpy from a null pointer is undefined even for zero bytes.
+char* copied(std::string_view from, char* to)
+{
+    if (!from.empty())
+        std::memcpy(to, from.data(), from.size());
+    return to + from.size();
+}
+
 }  // namespace
 
 DiskNode::Path::Path(std::string_view text)
@@ -32,7 +41,7 @@ DiskNode::Path::Path(std::string_view text)
     void* memory = ::operator new(sizeof(Text) + text.size());
     text_ = new (memory) Text;
     text_->length = static_cast<std::uint32_t>(text.size());
-    std::memcpy(reinterpret_cast<char*>(text_ + 1), text.data(), text.size());
+    copied(text, reinterpret_cast<char*>(text_ + 1));
 }
 
 DiskNode::Path::Path(std::string_view folder, std::string_view name)
@@ -42,9 +51,8 @@ DiskNode::Path::Path(std::string_view folder, std::string_view name)
     text_ = new (memory) Text;
     text_->length = static_cast<std::uint32_t>(length);
     char* bytes = reinterpret_cast<char*>(text_ + 1);
-    std::memcpy(bytes, folder.data(), folder.size());
-    bytes[folder.size()] = '/';
-    std::memcpy(bytes + folder.size() + 1, name.data(), name.size());
+    *copied(folder, bytes) = '/';
+    copied(name, bytes + folder.size() + 1);
 }
 
 DiskNode::Path::Path(const Path& other) : text_(other.text_)
@@ -110,8 +118,7 @@ DiskNode DiskNode::allocate(const Path& prefix, std::string_view tail, std::stri
     for (std::size_t i = 0; i < childCount; ++i)
         new (slots + i) DiskNode;
     char* text = reinterpret_cast<char*>(slots + childCount);
-    std::memcpy(text, tail.data(), tail.size());
-    std::memcpy(text + tail.size(), separateName.data(), separateName.size());
+    copied(separateName, copied(tail, text));
     return DiskNode(record);
 }
 
@@ -157,8 +164,7 @@ DiskNode DiskNode::makeSynthetic(const Path& folder, std::string_view largestNam
     std::string longer;
     std::string_view tail;
     if (largestName.size() + suffix.size() <= local.size()) {
-        std::memcpy(local.data(), largestName.data(), largestName.size());
-        std::memcpy(local.data() + largestName.size(), suffix.data(), suffix.size());
+        copied(suffix, copied(largestName, local.data()));
         tail = {local.data(), largestName.size() + suffix.size()};
     } else {
         longer.append(largestName).append(suffix);

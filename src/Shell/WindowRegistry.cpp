@@ -13,6 +13,7 @@
 #include <QScreen>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -68,8 +69,14 @@ WindowRegistry::WindowRegistry(QQmlEngine& engine, AppModel& model, std::vector<
 
 WindowRegistry::~WindowRegistry()
 {
-    for (const auto& window : std::as_const(open_))
-        delete window.data();
+    // Each window hides as it is destroyed; the registry going away has no use for hearing that.
+    const auto windows = std::exchange(open_, {});
+    for (const auto& window : windows) {
+        if (window) {
+            disconnect(window, nullptr, this, nullptr);
+            delete window.data();
+        }
+    }
 }
 
 const WindowDefinition* WindowRegistry::definition(const QString& id) const
@@ -80,7 +87,7 @@ const WindowDefinition* WindowRegistry::definition(const QString& id) const
 
 QQuickWindow* WindowRegistry::window(const QString& id) const
 {
-    return open_.value(id).data();
+    return qobject_cast<QQuickWindow*>(open_.value(id).data());
 }
 
 QQuickWindow* WindowRegistry::open(const QString& id)
@@ -152,16 +159,18 @@ void WindowRegistry::place(QQuickWindow& window, const WindowDefinition& definit
 void WindowRegistry::watchClosing(QQuickWindow& window, const QString& id)
 {
     // A window hides when it closes, whether the user closed it or its view did.
-    connect(&window, &QWindow::visibleChanged, this, [this, &window, id](bool visible) {
+    // Seen as a plain window, which is all that is left of it when it hides while destroyed.
+    QWindow* plain = &window;
+    connect(plain, &QWindow::visibleChanged, this, [this, plain, id](bool visible) {
         if (visible)
             return;
-        lastFrames_.insert(id, window.geometry());
+        lastFrames_.insert(id, plain->geometry());
         forget(id);
     });
 }
 
 void WindowRegistry::forget(const QString& id)
 {
-    if (QQuickWindow* window = open_.take(id).data())
+    if (QWindow* window = open_.take(id).data())
         window->deleteLater();
 }

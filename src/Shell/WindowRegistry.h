@@ -41,7 +41,9 @@ private:
     QQmlEngine& engine_;
     AppModel& model_;
     std::vector<WindowDefinition> windows_;
-    QHash<QString, QPointer<QQuickWindow>> open_;
+    // Held as plain windows: a window that is being destroyed has lost its Qt Quick part, and
+    // hides (and so reaches forget()) on the way out.
+    QHash<QString, QPointer<QWindow>> open_;
     // Where windows that aren't re-centred were when they closed.
     QHash<QString, QRect> lastFrames_;
 };

@@ -59,7 +59,7 @@ testing::AssertionResult isWholeState(const std::string& path)
 TEST_F(TempHomeTest, AWriterKilledAtAnyMomentLeavesTheOldFileOrTheNew)
 {
     std::mt19937 random(2026);
-    std::uniform_int_distribution<int> delayMicroseconds(0, 40'000);
+    std::uniform_int_distribution<int> delayMicroseconds(0, 20'000);
     int kills = 0;
     int sawWrites = 0;
     for (int round = 0; round < 300; ++round) {
@@ -67,6 +67,13 @@ TEST_F(TempHomeTest, AWriterKilledAtAnyMomentLeavesTheOldFileOrTheNew)
         fs::create_directories(fs::path(path).parent_path());
         const pid_t writer = startWriter(path);
         ASSERT_GT(writer, 0);
+        // Most kills land while the writer is writing, however slowly it starts (a sanitized build
+        // takes a while); every tenth lands wherever the start-up happens to be.
+        if (round % 10 != 0) {
+            const auto started = std::chrono::steady_clock::now();
+            while (!fs::exists(path) && std::chrono::steady_clock::now() - started < std::chrono::seconds(10))
+                std::this_thread::sleep_for(std::chrono::microseconds(200));
+        }
         std::this_thread::sleep_for(std::chrono::microseconds(delayMicroseconds(random)));
         kill(writer, SIGKILL);
         int status = 0;
@@ -86,5 +93,5 @@ TEST_F(TempHomeTest, AWriterKilledAtAnyMomentLeavesTheOldFileOrTheNew)
         fs::remove_all(fs::path(path).parent_path());
     }
     EXPECT_EQ(kills, 300);
-    EXPECT_GT(sawWrites, 150);  // most kills came in the middle of writing, not before it
+    EXPECT_GT(sawWrites, 200);  // most kills came in the middle of writing, not before it
 }

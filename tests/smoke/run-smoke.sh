@@ -88,7 +88,8 @@ status_item() {
         }'
 }
 item_shown() { [ -n "$(status_item)" ]; }
-wait_for 10 item_shown || fail "the status item didn't appear"
+# A sanitized build starts slowly on a busy machine.
+wait_for 30 item_shown || fail "the status item didn't appear"
 read -r item_w item_h item_x item_y <<<"$(status_item)"
 echo "status item: ${item_w}x${item_h} at ${item_x},${item_y}"
 click_x=$((item_x + item_w / 2))
