@@ -1,5 +1,7 @@
 #include "Models/Uuid.h"
 
+#include "Platform/HexDigit.h"
+
 #include <openssl/rand.h>
 
 #include <random>
@@ -11,17 +13,6 @@ constexpr char hexDigits[] = "0123456789ABCDEF";
 constexpr bool isDashPosition(std::size_t index)
 {
     return index == 8 || index == 13 || index == 18 || index == 23;
-}
-
-int hexValue(char c)
-{
-    if (c >= '0' && c <= '9')
-        return c - '0';
-    if (c >= 'a' && c <= 'f')
-        return c - 'a' + 10;
-    if (c >= 'A' && c <= 'F')
-        return c - 'A' + 10;
-    return -1;
 }
 
 // RAND_bytes only fails when OpenSSL can't seed itself; the kernel's source via random_device
@@ -63,7 +54,7 @@ std::optional<Uuid> Uuid::parse(std::string_view text)
                 return std::nullopt;
             continue;
         }
-        const int value = hexValue(text[i]);
+        const int value = hexDigitValue(text[i]);
         if (value < 0)
             return std::nullopt;
         bytes[nibble / 2] = static_cast<std::uint8_t>(bytes[nibble / 2] << 4 | value);

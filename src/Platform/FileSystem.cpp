@@ -76,9 +76,19 @@ bool isFolderFollowingLinks(const std::string& path)
 
 std::optional<std::vector<std::string>> contentsOfFolder(const std::string& path)
 {
-    DIR* folder = opendir(path.c_str());
-    if (!folder)
+    return contentsOfFolderAt(AT_FDCWD, path);
+}
+
+std::optional<std::vector<std::string>> contentsOfFolderAt(int folderDescriptor, const std::string& name)
+{
+    // A stream of its own, so a descriptor the caller holds stays usable.
+    const int descriptor = openat(folderDescriptor, name.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    DIR* folder = descriptor >= 0 ? fdopendir(descriptor) : nullptr;
+    if (!folder) {
+        if (descriptor >= 0)
+            close(descriptor);
         return std::nullopt;
+    }
     std::vector<std::string> names;
     while (const dirent* entry = readdir(folder)) {
         const std::string_view name = entry->d_name;

@@ -20,6 +20,8 @@ bool isFolderFollowingLinks(const std::string& path);
 // The names in a folder, hidden ones included, in the order the folder lists them; none when it
 // can't be listed.
 std::optional<std::vector<std::string>> contentsOfFolder(const std::string& path);
+// The same for `name` (a single name, a path, or ".") relative to the open folder `folderDescriptor`.
+std::optional<std::vector<std::string>> contentsOfFolderAt(int folderDescriptor, const std::string& name);
 
 // Removes a file, a link (never what it points to) or a whole folder tree. True when nothing is
 // left at the path.

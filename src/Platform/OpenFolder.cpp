@@ -3,7 +3,6 @@
 #include "Platform/FileSystem.h"
 #include "Platform/PosixItemInfo.h"
 
-#include <dirent.h>
 #include <fcntl.h>
 #include <unistd.h>
 #include <utility>
@@ -57,22 +56,7 @@ OpenFolder::~OpenFolder()
 
 std::vector<std::string> OpenFolder::childNames() const
 {
-    // A listing of its own: the stream reads through a duplicate, so this one stays usable.
-    std::vector<std::string> names;
-    const int copy = openat(descriptor_, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    DIR* folder = copy >= 0 ? fdopendir(copy) : nullptr;
-    if (!folder) {
-        if (copy >= 0)
-            close(copy);
-        return names;
-    }
-    while (const dirent* entry = readdir(folder)) {
-        const std::string_view name = entry->d_name;
-        if (name != "." && name != "..")
-            names.emplace_back(name);
-    }
-    closedir(folder);
-    return names;
+    return FileSystem::contentsOfFolderAt(descriptor_, ".").value_or(std::vector<std::string>{});
 }
 
 std::optional<ItemInfo> OpenFolder::childInfo(const std::string& name) const

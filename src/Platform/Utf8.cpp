@@ -1,5 +1,7 @@
 #include "Platform/Utf8.h"
 
+#include "Platform/HexDigit.h"
+
 #include <cstddef>
 
 namespace Utf8 {
@@ -39,17 +41,6 @@ std::size_t sequenceLength(unsigned char lead)
     if (lead >= 0xF0 && lead <= 0xF4)
         return 4;
     return 0;
-}
-
-int hexValue(char c)
-{
-    if (c >= '0' && c <= '9')
-        return c - '0';
-    if (c >= 'a' && c <= 'f')
-        return c - 'a' + 10;
-    if (c >= 'A' && c <= 'F')
-        return c - 'A' + 10;
-    return -1;
 }
 
 }  // namespace
@@ -131,8 +122,8 @@ std::string unescaped(std::string_view text)
             continue;
         }
         const bool hexEscape = index + 3 < text.size() && text[index + 1] == 'x';
-        const int high = hexEscape ? hexValue(text[index + 2]) : -1;
-        const int low = high >= 0 ? hexValue(text[index + 3]) : -1;
+        const int high = hexEscape ? hexDigitValue(text[index + 2]) : -1;
+        const int low = high >= 0 ? hexDigitValue(text[index + 3]) : -1;
         if (low < 0) {
             bytes += '\\';
             continue;

@@ -85,7 +85,7 @@ qint64 FileFinderModel::selectedSize() const
 
 void FileFinderModel::scan(const QString& path)
 {
-    scan(path.isEmpty() ? std::nullopt : std::optional<std::string>(path.toStdString()));
+    scan(path.isEmpty() ? std::nullopt : std::optional<std::string>(QtConversions::toStd(path)));
 }
 
 void FileFinderModel::scan(std::optional<std::string> path)

@@ -5,6 +5,7 @@
 #include "Platform/FileSystem.h"
 #include "Platform/PlatformProfile.h"
 #include "Platform/Workspace.h"
+#include "QtConversions.h"
 #include "Services/AutostartEntries.h"
 #include "WorkQueues.h"
 
@@ -50,11 +51,11 @@ QVariantList StartupItemsModel::itemList() const
     QVariantList rows;
     for (const StartupItem& item : items_) {
         rows.append(QVariantMap{
-            {QStringLiteral("id"), QString::fromStdString(item.id)},
-            {QStringLiteral("label"), QString::fromStdString(item.label)},
-            {QStringLiteral("program"), QString::fromStdString(item.program)},
+            {QStringLiteral("id"), QtConversions::toQt(item.id)},
+            {QStringLiteral("label"), QtConversions::toQt(item.label)},
+            {QStringLiteral("program"), QtConversions::toQt(item.program)},
             {QStringLiteral("enabled"), item.enabled},
-            {QStringLiteral("fileName"), QString::fromStdString(item.fileName)},
+            {QStringLiteral("fileName"), QtConversions::toQt(item.fileName)},
             {QStringLiteral("isAutostart"), item.kind == StartupItem::Kind::autostartEntry},
         });
     }
@@ -70,7 +71,7 @@ void StartupItemsModel::refresh()
 void StartupItemsModel::toggle(const QString& id)
 {
     const auto found = std::find_if(items_.begin(), items_.end(),
-                                    [&](const StartupItem& item) { return QString::fromStdString(item.id) == id; });
+                                    [&](const StartupItem& item) { return QtConversions::toQt(item.id) == id; });
     if (found == items_.end())
         return;
     busyID_ = id;

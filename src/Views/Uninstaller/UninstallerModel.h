@@ -5,6 +5,7 @@
 #include "Platform/PlatformProfile.h"
 #include "Services/CancelToken.h"
 #include "Services/Uninstaller.h"
+#include "QtConversions.h"
 
 #include <QObject>
 #include <QPointer>
@@ -94,7 +95,7 @@ public:
     Q_INVOKABLE void chooseApp();
     // "Other…" beside the list of apps: a file dialog in the home folder.
     Q_INVOKABLE void chooseOtherFile();
-    Q_INVOKABLE void load(const QString& appPath) { load(appPath.toStdString()); }
+    Q_INVOKABLE void load(const QString& appPath) { load(QtConversions::toStd(appPath)); }
     // By index into installedApps; out-of-range indexes do nothing.
     Q_INVOKABLE void loadListed(int index);
     Q_INVOKABLE void toggleSelectAll();
