@@ -1,8 +1,12 @@
 #include "Shell/MopwellApp.h"
 #include "Shell/SingleInstance.h"
 #include "Platform/Bundle.h"
+#include "Platform/DefaultsStore.h"
+#include "Services/AppLanguage.h"
 
 #include <QApplication>
+#include <QDeadlineTimer>
+#include <QThread>
 #include <QtQml/qqmlextensionplugin.h>
 
 #include <cstdio>
@@ -19,7 +23,13 @@ int main(int argc, char* argv[])
     // One copy per session: a second start (an autostart entry plus a start by hand) shows the
     // running copy's panel and ends, before it reads or writes any settings.
     SingleInstance instance;
-    if (!instance.claim()) {
+    bool claimed = instance.claim();
+    // A relaunch (for a new language) starts while the copy it replaces is still ending.
+    if (QCoreApplication::arguments().contains(QLatin1String(AppLanguage::relaunchArgument))) {
+        for (QDeadlineTimer deadline(10000); !claimed && !deadline.hasExpired(); claimed = instance.claim())
+            QThread::msleep(50);
+    }
+    if (!claimed) {
         if (instance.handOver())
             return 0;
         std::fprintf(stderr, "mopwell: another copy is running but does not answer\n");
@@ -28,6 +38,8 @@ int main(int argc, char* argv[])
     // The running application has an identity; tests and command-line tools don't, and so post
     // no notifications.
     Bundle::setMainIdentifier(Bundle::applicationIdentifier);
+    // Before any window is built: every text, date and size in the chosen language.
+    AppLanguage::install(*DefaultsStore::standard());
     MopwellApp app;
     QObject::connect(&instance, &SingleInstance::activationRequested, &app, &MopwellApp::showPanel);
     app.launch();

@@ -9,24 +9,25 @@ namespace ByteCountFormatter {
 namespace {
 
 struct Unit {
-    std::string_view name;
     double scale;
     int fractionDigits;
 };
 
 constexpr std::array<Unit, 6> units = {{
-    {"KB", 1e3, 0},
-    {"MB", 1e6, 1},
-    {"GB", 1e9, 2},
-    {"TB", 1e12, 2},
-    {"PB", 1e15, 2},
-    {"EB", 1e18, 2},
+    {1e3, 0},
+    {1e6, 1},
+    {1e9, 2},
+    {1e12, 2},
+    {1e15, 2},
+    {1e18, 2},
 }};
+
+Wording current;
 
 std::string groupedThousands(std::string digits)
 {
     for (int at = static_cast<int>(digits.size()) - 3; at > 0; at -= 3)
-        digits.insert(static_cast<std::size_t>(at), ",");
+        digits.insert(static_cast<std::size_t>(at), current.groupSeparator);
     return digits;
 }
 
@@ -44,7 +45,7 @@ std::string decimal(double value, int digits)
     fractionText.insert(0, static_cast<std::size_t>(digits) - fractionText.size(), '0');
     while (fractionText.back() == '0')
         fractionText.pop_back();
-    return text + "." + fractionText;
+    return text + current.decimalSeparator + fractionText;
 }
 
 // Picks the unit from `first` to `last` in which the rounded figure stays below 1000, so that
@@ -60,8 +61,7 @@ std::string inUnits(std::uint64_t magnitude, std::size_t first, std::size_t last
         ++index;
     }
     const Unit& unit = units[index];
-    return decimal(static_cast<double>(magnitude) / unit.scale, unit.fractionDigits) + " " +
-           std::string(unit.name);
+    return decimal(static_cast<double>(magnitude) / unit.scale, unit.fractionDigits) + " " + current.units[index];
 }
 
 std::uint64_t magnitudeOf(std::int64_t bytes)
@@ -69,18 +69,37 @@ std::uint64_t magnitudeOf(std::int64_t bytes)
     return bytes < 0 ? static_cast<std::uint64_t>(-(bytes + 1)) + 1 : static_cast<std::uint64_t>(bytes);
 }
 
+std::string bytesText(std::uint64_t count)
+{
+    std::string text = current.bytes;
+    const auto at = text.find("%1");
+    if (at != std::string::npos)
+        text.replace(at, 2, std::to_string(count));
+    return text;
+}
+
 }  // namespace
+
+void setWording(Wording wording)
+{
+    current = std::move(wording);
+}
+
+const Wording& wording()
+{
+    return current;
+}
 
 std::string string(std::int64_t bytes)
 {
     if (bytes == 0)
-        return "Zero KB";
+        return current.zero;
     const std::string sign = bytes < 0 ? "-" : "";
     const std::uint64_t magnitude = magnitudeOf(bytes);
     if (magnitude == 1)
-        return sign + "1 byte";
+        return sign + current.oneByte;
     if (magnitude < 1000)
-        return sign + std::to_string(magnitude) + " bytes";
+        return sign + bytesText(magnitude);
     return sign + inUnits(magnitude, 0, units.size() - 1);
 }
 
