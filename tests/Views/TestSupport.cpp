@@ -1,27 +1,46 @@
 #include "Views/TestSupport.h"
 
 #include "AppModel.h"
+#include "Platform/Bundle.h"
+#include "Platform/ByteCountFormatter.h"
 #include "Platform/DefaultsStore.h"
 #include "Platform/Trash.h"
+#include "Services/AppLanguage.h"
+#include "Services/Updater.h"
 #include "Support/AppModelTestAccess.h"
+#include "Support/FeedServer.h"
 #include "Support/TempHome.h"
 #include "Support/ToolStubs.h"
 #include "Support/TreeBuilder.h"
+#include "Views/Components/Shell.h"
 
+#include <QDesktopServices>
 #include <QDir>
+#include <QFile>
 
 #include <chrono>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <QJSEngine>
+#include <QTranslator>
 #include <QQuickWindow>
 
 #include <filesystem>
 
 TestSupport::TestSupport() : tempHome_(std::make_unique<TempHome>()) {}
 
+namespace {
+
+const char* const openedSchemes[] = {"http", "https", "file", "trash"};
+
+}  // namespace
+
 TestSupport::~TestSupport()
 {
+    for (const char* scheme : openedSchemes)
+        QDesktopServices::unsetUrlHandler(QString::fromLatin1(scheme));
+    Bundle::setMainIdentifier(std::nullopt);
+    setLanguage(QString());
     models_.clear();
     tools_.reset();
     Clock::setNowForTesting(std::nullopt);
@@ -40,6 +59,13 @@ AppModel* TestSupport::freshModel()
     auto store = std::make_shared<DefaultsStore>(tempHome_->configHome() + "/mopwell/defaults.plist");
     models_.push_back(std::make_unique<AppModel>(store));
     // Returned to QML, which would otherwise take the model over and delete it a second time.
+    QJSEngine::setObjectOwnership(models_.back().get(), QJSEngine::CppOwnership);
+    return models_.back().get();
+}
+
+AppModel* TestSupport::reopenedModel(AppModel* model)
+{
+    models_.push_back(std::make_unique<AppModel>(std::make_shared<DefaultsStore>(model->settings()->defaults()->path())));
     QJSEngine::setObjectOwnership(models_.back().get(), QJSEngine::CppOwnership);
     return models_.back().get();
 }
@@ -161,4 +187,50 @@ bool TestSupport::saveScreenshot(QQuickItem* item, const QString& name) const
         return false;
     QDir().mkpath(QStringLiteral(MOPWELL_SCREENSHOT_DIR));
     return item->window()->grabWindow().save(QStringLiteral(MOPWELL_SCREENSHOT_DIR "/") + name + ".png");
+}
+
+QString TestSupport::readText(const QString& relativePath) const
+{
+    QFile file(home() + "/" + relativePath);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+void TestSupport::setApplicationIdentifier(const QString& identifier)
+{
+    Bundle::setMainIdentifier(identifier.isEmpty() ? std::nullopt : std::optional(identifier.toStdString()));
+}
+
+Updater* TestSupport::serveUpdates(const QString& feedXml)
+{
+    if (!feedServer_)
+        feedServer_ = std::make_unique<FeedServer>();
+    feedServer_->answer(feedXml.toUtf8());
+    auto store = std::make_shared<DefaultsStore>(tempHome_->root() + "/updater.plist");
+    const QString feed = feedXml.isEmpty() ? QString() : feedServer_->address();
+    updaters_.push_back(std::make_unique<Updater>(store, feed, Updater::Build{"1.4", "140"}));
+    QJSEngine::setObjectOwnership(updaters_.back().get(), QJSEngine::CppOwnership);
+    Shell::instance().setUpdater(updaters_.back().get());
+    return updaters_.back().get();
+}
+
+void TestSupport::catchOpenedUrls()
+{
+    openedUrls_.clear();
+    for (const char* scheme : openedSchemes)
+        QDesktopServices::setUrlHandler(QString::fromLatin1(scheme), this, "recordOpenedUrl");
+}
+
+void TestSupport::setLanguage(const QString& code)
+{
+    for (QTranslator* translator : QCoreApplication::instance()->findChildren<QTranslator*>()) {
+        QCoreApplication::removeTranslator(translator);
+        delete translator;
+    }
+    QLocale::setDefault(originalLocale_);
+    ByteCountFormatter::setWording({});
+    if (code.isEmpty())
+        return;
+    DefaultsStore store(tempHome_->root() + "/language.plist");
+    AppLanguage::set(store, code);
+    AppLanguage::install(store);
 }

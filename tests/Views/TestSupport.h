@@ -1,14 +1,19 @@
 #pragma once
 
+#include "Services/Updater.h"
+
+#include <QLocale>
 #include <QObject>
 #include <QQuickItem>
 #include <QString>
 #include <QStringList>
+#include <QUrl>
 
 #include <memory>
 #include <vector>
 
 class AppModel;
+class FeedServer;
 class TempHome;
 class ToolStubs;
 
@@ -26,6 +31,8 @@ public:
 
     // A new model; the previous ones stay alive until the tests end, as windows may hold them.
     Q_INVOKABLE AppModel* freshModel();
+    // Another model over the defaults file `model` writes, as the next start would read it.
+    Q_INVOKABLE AppModel* reopenedModel(AppModel* model);
     Q_INVOKABLE void writeFile(const QString& relativePath, int bytes);
     // A text file (a desktop entry, a script) below the home; "$HOME" in `text` becomes the home.
     Q_INVOKABLE void writeText(const QString& relativePath, const QString& text);
@@ -55,8 +62,30 @@ public:
     // Saves a picture of the item's window to screenshots/NAME.png in the build folder.
     Q_INVOKABLE bool saveScreenshot(QQuickItem* item, const QString& name) const;
 
+    // The text of a file below the home; empty when it can't be read.
+    Q_INVOKABLE QString readText(const QString& relativePath) const;
+    // Gives the program the identity the installed application has; empty takes it away.
+    Q_INVOKABLE void setApplicationIdentifier(const QString& identifier);
+    // A new updater for the views (Shell.updater) of a build of version 1.4 (140), reading the
+    // feed `feedXml` from a web server on this machine; without a feed, a development build's.
+    Q_INVOKABLE Updater* serveUpdates(const QString& feedXml);
+    // From now on, keeps the addresses the views ask the desktop to open instead of opening them;
+    // forgets the ones kept before.
+    Q_INVOKABLE void catchOpenedUrls();
+    Q_INVOKABLE QStringList openedUrls() const { return openedUrls_; }
+    // Speaks `code` ("de", "fr") from now on, as a start in that language would: windows made
+    // afterwards show its texts, dates and sizes. Empty goes back to English.
+    Q_INVOKABLE void setLanguage(const QString& code);
+
+public slots:
+    void recordOpenedUrl(const QUrl& url) { openedUrls_.append(url.toString()); }
+
 private:
     std::unique_ptr<TempHome> tempHome_;
     std::unique_ptr<ToolStubs> tools_;
     std::vector<std::unique_ptr<AppModel>> models_;
+    std::unique_ptr<FeedServer> feedServer_;
+    std::vector<std::unique_ptr<Updater>> updaters_;
+    QStringList openedUrls_;
+    QLocale originalLocale_;
 };

@@ -39,3 +39,11 @@ void Shell::quit()
 {
     emit quitRequested();
 }
+
+void Shell::setUpdater(Updater* updater)
+{
+    if (updater_ == updater)
+        return;
+    updater_ = updater;
+    emit updaterChanged();
+}

@@ -1,6 +1,9 @@
 #pragma once
 
+#include "Services/Updater.h"
+
 #include <QObject>
+#include <QPointer>
 #include <QString>
 #include <QtQml/qqml.h>
 
@@ -15,6 +18,9 @@ class Shell : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_SINGLETON
+    // The application's own updates (`Shell.updater.checkForUpdates()`); null until the
+    // application object hands it over.
+    Q_PROPERTY(Updater* updater READ updater NOTIFY updaterChanged)
 
 public:
     // The one instance, shared by every engine and by the application object.
@@ -29,12 +35,18 @@ public:
     Q_INVOKABLE void post(const QString& name);
     Q_INVOKABLE void quit();
 
+    Updater* updater() const { return updater_; }
+    void setUpdater(Updater* updater);
+
 signals:
     void windowRequested(const QString& id);
     void windowCloseRequested(const QString& id);
     void posted(const QString& name);
     void quitRequested();
+    void updaterChanged();
 
 private:
     explicit Shell(QObject* parent = nullptr);
+
+    QPointer<Updater> updater_;
 };
