@@ -1,11 +1,14 @@
 #include "Platform/Workspace.h"
 
 #include "Platform/Paths.h"
+#include "Platform/Trash.h"
 
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDesktopServices>
 #include <QStringList>
+
+#include <cstdlib>
 
 namespace Workspace {
 namespace {
@@ -63,6 +66,29 @@ bool reveal(const std::string& path, const QDBusConnection& bus, UrlOpener openU
                              openParentFolder(path, openUrl);
                      });
     return true;
+}
+
+QUrl trashAddress()
+{
+    const char* desktop = std::getenv("XDG_CURRENT_DESKTOP");
+    const QStringList names = QString::fromLocal8Bit(desktop ? desktop : "").toUpper().split(QLatin1Char(':'));
+    if (names.contains(QLatin1String("KDE")))
+        return QUrl(QStringLiteral("trash:/"));
+    for (const char* gioDesktop : {"GNOME", "UNITY", "X-CINNAMON", "CINNAMON", "MATE", "XFCE", "BUDGIE", "PANTHEON"}) {
+        if (names.contains(QLatin1String(gioDesktop)))
+            return QUrl(QStringLiteral("trash:///"));
+    }
+    return fileUrl(Trash::homeTrashFolder() + "/files");
+}
+
+bool openTrash(const UrlOpener& openUrl)
+{
+    return openUrl(trashAddress());
+}
+
+bool openTrash()
+{
+    return openTrash([](const QUrl& url) { return QDesktopServices::openUrl(url); });
 }
 
 }  // namespace Workspace

@@ -25,4 +25,12 @@ bool reveal(const std::string& path);
 using UrlOpener = std::function<bool(const QUrl&)>;
 bool reveal(const std::string& path, const QDBusConnection& bus, UrlOpener openUrl);
 
+// Opens the desktop's Trash: the file manager's own view of it, where the desktop's file manager
+// knows the "trash:" address (the GIO-based ones and KDE's), else the home Trash's folder of
+// files. $XDG_CURRENT_DESKTOP says which desktop it is.
+bool openTrash();
+bool openTrash(const UrlOpener& openUrl);
+// The address openTrash() opens on this desktop.
+QUrl trashAddress();
+
 }  // namespace Workspace

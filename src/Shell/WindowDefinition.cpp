@@ -25,5 +25,6 @@ std::vector<WindowDefinition> applicationWindows()
         {"appupdates", view("Updates", "AppUpdatesView"), QObject::tr("App & Tool Updates"), std::nullopt, false},
         {"uninstaller", view("Uninstaller", "UninstallerView"), QObject::tr("Uninstall an App"), std::nullopt, true},
         {"about", view("About", "AboutView"), QObject::tr("About Mopwell"), std::nullopt, true},
+        {"update", view("About", "SoftwareUpdateView"), QObject::tr("Software Update"), std::nullopt, true},
     };
 }

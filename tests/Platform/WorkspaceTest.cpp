@@ -1,8 +1,11 @@
 #include "Platform/Workspace.h"
+#include "Platform/Trash.h"
 #include "Support/FakeFileManager.h"
 #include "Support/PrivateSessionBus.h"
 
 #include <QTest>
+
+#include <cstdlib>
 
 #include <gtest/gtest.h>
 
@@ -54,4 +57,33 @@ TEST_F(WorkspaceTest, WithoutAFileManagerRevealOpensTheEnclosingFolder)
     const QDBusConnection noBus(QStringLiteral("mopwell-no-bus"));
     EXPECT_FALSE(Workspace::reveal("/tmp/Old Stuff/notes.txt", noBus, recorder(false)));
     EXPECT_EQ(opened, QList<QUrl>{QUrl::fromLocalFile("/tmp/Old Stuff")});
+}
+
+TEST(Workspace, OpenTrashOpensTheFileManagersOwnViewWhereItHasOne)
+{
+    const char* saved = std::getenv("XDG_CURRENT_DESKTOP");
+    const std::string before = saved ? saved : "";
+    const QUrl homeTrash = QUrl::fromLocalFile(QString::fromStdString(Trash::homeTrashFolder() + "/files"));
+    const struct {
+        const char* desktop;
+        QUrl opened;
+    } cases[] = {
+        {"GNOME", QUrl("trash:///")},
+        {"ubuntu:GNOME", QUrl("trash:///")},
+        {"X-Cinnamon", QUrl("trash:///")},
+        {"XFCE", QUrl("trash:///")},
+        {"KDE", QUrl("trash:/")},
+        {"", homeTrash},        // unknown: the home Trash's folder of files
+        {"sway", homeTrash},
+    };
+    for (const auto& c : cases) {
+        setenv("XDG_CURRENT_DESKTOP", c.desktop, 1);
+        QList<QUrl> opened;
+        EXPECT_TRUE(Workspace::openTrash([&](const QUrl& url) { opened.append(url); return true; }));
+        EXPECT_EQ(opened, QList<QUrl>{c.opened}) << c.desktop;
+    }
+    if (saved)
+        setenv("XDG_CURRENT_DESKTOP", before.c_str(), 1);
+    else
+        unsetenv("XDG_CURRENT_DESKTOP");
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDateTime>
 #include <QObject>
 #include <QString>
 #include <QtQml/qqml.h>
@@ -16,4 +17,8 @@ public:
 
     // A file size: "Zero KB", "1 byte", "12 KB", "1.5 MB", "2.25 GB".
     Q_INVOKABLE QString bytes(qint64 count) const;
+
+    // A moment as lists show it, in the running language: the date with the month abbreviated
+    // and no weekday, then the short time ("Jan 5, 2024 9:41 AM", "5. Jan. 2024 09:41").
+    static QString mediumDateTime(const QDateTime& moment);
 };

@@ -1,15 +1,14 @@
 #include "SnapshotsModel.h"
 
 #include "DesktopWords.h"
+#include "Formatter.h"
 #include "MainThread.h"
 #include "Platform/ByteCountFormatter.h"
 #include "Services/SnapshotManager.h"
 #include "WorkQueues.h"
 
 #include <QDateTime>
-#include <QLocale>
 #include <QPointer>
-#include <QRegularExpression>
 #include <QTimer>
 
 struct SnapshotsModel::Outcome {
@@ -18,21 +17,6 @@ struct SnapshotsModel::Outcome {
     std::int64_t freed = 0;
     std::string message;
 };
-
-namespace {
-
-// The platform's "medium" date: the long form without the weekday, the month abbreviated
-// ("Jan 5, 2024", "5. Jan. 2024", "5 janv. 2024").
-QString mediumDateFormat(const QLocale& locale)
-{
-    QString format = locale.dateFormat(QLocale::LongFormat);
-    static const QRegularExpression weekday(QStringLiteral("d{4}[,.]?\\s*"));
-    format.remove(weekday);
-    format.replace(QStringLiteral("MMMM"), QStringLiteral("MMM"));
-    return format.trimmed();
-}
-
-}  // namespace
 
 SnapshotsModel::Backend SnapshotsModel::systemBackend()
 {
@@ -86,9 +70,7 @@ QString SnapshotsModel::displayDate(const QString& timestamp)
     const QDateTime date = QDateTime::fromString(timestamp, QStringLiteral("yyyy-MM-dd-HHmmss"));
     if (!date.isValid())
         return timestamp;
-    const QLocale locale;
-    return locale.toString(date.date(), mediumDateFormat(locale)) + QStringLiteral(" ")
-        + locale.toString(date.time(), QLocale::ShortFormat);
+    return Formatter::mediumDateTime(date);
 }
 
 void SnapshotsModel::refresh()
