@@ -14,16 +14,20 @@
 
 MopwellApp::Views MopwellApp::Views::application()
 {
-    return {QUrl(QStringLiteral("qrc:/Mopwell/Views/Panel/MenuPanelView.qml")), applicationWindows()};
+    return {QUrl(QStringLiteral("qrc:/Mopwell/Views/Panel/MenuPanelView.qml")), applicationWindows(),
+            {QUrl(QStringLiteral("qrc:/Mopwell/Views/Onboarding/WelcomeWindow.qml")),
+             QUrl(QStringLiteral("qrc:/Mopwell/Views/Onboarding/CoachMarkWindow.qml"))}};
 }
 
 MopwellApp::MopwellApp(QObject* parent) : MopwellApp(AppModel::shared(), Views::application(), parent) {}
 
 MopwellApp::MopwellApp(AppModel& model, Views views, QObject* parent)
-    : QObject(parent), model_(model), panelSource_(std::move(views.panel))
+    : QObject(parent), model_(model), updater_(model.settings()->defaults()), panelSource_(std::move(views.panel))
 {
     engine_.addImportPath(QStringLiteral("qrc:/"));  // where the views are compiled in
     windows_ = std::make_unique<WindowRegistry>(engine_, model_, std::move(views.windows));
+    welcome_ = std::make_unique<WelcomeFlow>(engine_, model_, std::move(views.welcome),
+                                             [this] { return statusItem_ ? statusItem_->geometry() : QRect(); });
     listenToViews();
     listenToNotifications();
 }
@@ -36,13 +40,19 @@ void MopwellApp::launch()
         showStatusItem();
     else
         showPanelAsWindow();
+    if (!model_.settings()->hasCompletedOnboarding())
+        welcome_->showOnboarding();
 }
 
 void MopwellApp::showStatusItem()
 {
     panel_ = std::make_unique<MenuPanel>(engine_, model_, panelSource_, MenuPanel::Style::dropDown);
     statusItem_ = std::make_unique<StatusItem>(model_);
-    connect(statusItem_.get(), &StatusItem::clicked, this, [this] { panel_->toggle(statusItem_->geometry()); });
+    connect(statusItem_.get(), &StatusItem::clicked, this, [this] {
+        // The user has found the icon: the bubble pointing at it has done its work.
+        welcome_->dismissCoachMark();
+        panel_->toggle(statusItem_->geometry());
+    });
     connect(statusItem_.get(), &StatusItem::quitChosen, this, &MopwellApp::quit);
     statusItem_->show();
 }
@@ -77,11 +87,16 @@ void MopwellApp::listenToViews()
     connect(&shell, &Shell::windowCloseRequested, windows_.get(), &WindowRegistry::close);
     connect(&shell, &Shell::posted, &notifications_, &AppNotifications::post);
     connect(&shell, &Shell::quitRequested, this, &MopwellApp::quit);
+    // The views check for updates through the one updater; what a check has to say shows in the
+    // update window, whether the user asked or the daily check found a new release.
+    shell.setUpdater(&updater_);
+    connect(&updater_, &Updater::presentationRequested, this, [this] { openWindow(QStringLiteral("update")); });
 }
 
 void MopwellApp::listenToNotifications()
 {
     connect(&notifications_, &AppNotifications::requestCleanAll, this, &MopwellApp::cleanAll);
+    connect(&notifications_, &AppNotifications::showOnboarding, welcome_.get(), &WelcomeFlow::showOnboarding);
     // A tap on the low-space alert, or its "Clean Up Now", brings up the confirmation of a clean
     // of everything enabled; it never cleans by itself. The tap may arrive in the middle of other
     // work, so it is handled from the event loop.

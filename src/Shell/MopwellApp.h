@@ -2,6 +2,7 @@
 
 #include "AppNotifications.h"
 #include "Services/Updater.h"
+#include "WelcomeFlow.h"
 #include "WindowDefinition.h"
 
 #include <QObject>
@@ -27,6 +28,8 @@ public:
     struct Views {
         QUrl panel;
         std::vector<WindowDefinition> windows;
+        // The first run's welcome and the bubble after it; none, no welcome.
+        WelcomeFlow::Views welcome = {};
 
         static Views application();
     };
@@ -38,7 +41,7 @@ public:
     ~MopwellApp() override;
 
     // Puts up the status item, or where the desktop has none, shows the panel as a window that
-    // quits the application when closed.
+    // quits the application when closed; then the welcome, until the user has been through it.
     void launch();
 
     // Opens the window with this id, or brings it forward, and activates it.
@@ -50,6 +53,7 @@ public:
     AppModel& model() const { return model_; }
     Updater& updater() { return updater_; }
     AppNotifications& notifications() { return notifications_; }
+    WelcomeFlow& welcome() const { return *welcome_; }
     WindowRegistry& windows() const { return *windows_; }
     MenuPanel& panel() const { return *panel_; }
     // Null where the desktop has no status area.
@@ -69,6 +73,7 @@ private:
     QQmlEngine engine_;
     AppNotifications notifications_;
     std::unique_ptr<WindowRegistry> windows_;
+    std::unique_ptr<WelcomeFlow> welcome_;
     std::unique_ptr<MenuPanel> panel_;
     std::unique_ptr<StatusItem> statusItem_;
     QUrl panelSource_;

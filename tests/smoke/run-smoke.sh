@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
 # Runs the real application on a virtual X display with a status area and a notification server,
-# as a user would meet it: the status item appears, a click drops the panel under it, a second
-# click puts it away, a second start of the application shows the panel of the first and ends,
-# and "Quit Mopwell" in the item's menu ends the application. A picture of the
-# screen with the panel open is saved as smoke.png.
+# as a user would meet it: the status item appears, the first start's welcome is skipped, a click
+# drops the panel under it, a second click puts it away, a second start of the application shows
+# the panel of the first and ends, and "Quit Mopwell" in the item's menu ends the application. A
+# picture of the screen with the panel open is saved as smoke.png.
 #
 # Usage: run-smoke.sh MOPWELL_EXECUTABLE SCREENSHOT_FOLDER
 # Exits 77 (skipped) when a tool it needs isn't installed; scripts/bootstrap installs them all.
@@ -106,8 +106,25 @@ panel_shown() {
     [ -n "$id" ] && xwininfo -id "$id" | grep -q 'Map State: IsViewable'
 }
 
+# A first start welcomes the user over the screen but leaves the status area free; Escape is
+# "Skip for now", after which a bubble points at the icon without covering it.
+# Our top-level windows: the id of the first whose line has the text $1 and matches $2.
+top_level() { xwininfo -root -children | grep -F '("mopwell" ' | grep -F -- "$1" | grep -E -- "${2:-.}" | awk '{ print $1; exit }'; }
+viewable() { [ -n "$1" ] && xwininfo -id "$1" 2>/dev/null | grep -q 'Map State: IsViewable'; }
+welcome() { top_level '"Welcome to Mopwell":'; }
+welcome_shown() { viewable "$(welcome)"; }
+coach_mark_shown() { viewable "$(top_level '' ' 1280x200[+]')"; }
+wait_for 20 welcome_shown || fail "a first start didn't show the welcome"
+xdotool windowfocus --sync "$(welcome)" key Escape
+welcome_hidden() { ! welcome_shown; }
+wait_for 5 welcome_hidden || fail "Escape didn't skip the welcome"
+wait_for 5 coach_mark_shown || fail "no bubble pointed at the status item after the welcome"
+
 xdotool mousemove "$click_x" "$click_y" click 1
 wait_for 10 panel_shown || fail "a click on the status item didn't show the panel"
+# The user has found the icon: the bubble goes.
+coach_mark_hidden() { ! coach_mark_shown; }
+wait_for 5 coach_mark_hidden || fail "the bubble stayed after a click on the status item"
 read -r _ panel_x panel_y <<<"$(panel)"
 echo "panel at ${panel_x},${panel_y}"
 # Dropped just under the item, and reaching across it.

@@ -18,6 +18,10 @@ DesktopWords::Words DesktopWords::forProfile(PlatformProfile profile)
                "connected. macOS frees them automatically under pressure — removing them reclaims that space now. "
                "Your Time Machine backups on external or network drives are not touched."),
             tr("Snapshots removed — macOS may report the freed space in a moment."),
+            tr("Free up space from caches and junk you don't need — cleaned safely, right from your menu bar."),
+            tr("How do you use this Mac?"),
+            tr("Open Mopwell from the menu bar any time to clean up or explore the Disk Map."),
+            tr("Click the drive icon in your menu bar any time to free up space or open the Disk Map."),
         };
     }
     return {
@@ -30,6 +34,11 @@ DesktopWords::Words DesktopWords::forProfile(PlatformProfile profile)
         tr("Snapshots are copies of your system that Snapper keeps on Btrfs so you can undo changes. Old ones hold "
            "on to space — removing them reclaims it now. Your backups on other drives are not touched."),
         tr("Snapshots removed — the file system may report the freed space in a moment."),
+        // The status icon sits in the panel's status area, and it draws a gauge, not a drive.
+        tr("Free up space from caches and junk you don't need — cleaned safely, right from your panel."),
+        tr("How do you use this computer?"),
+        tr("Open Mopwell from its icon in the panel any time to clean up or explore the Disk Map."),
+        tr("Click Mopwell's icon in your panel any time to free up space or open the Disk Map."),
     };
 }
 

@@ -25,6 +25,10 @@ class DesktopWords : public QObject {
     Q_PROPERTY(QString snapshotsDescription READ snapshotsDescription CONSTANT)
     Q_PROPERTY(QString snapshotsRemovedLater READ snapshotsRemovedLater CONSTANT)
     Q_PROPERTY(QString openFolderHint READ openFolderHint CONSTANT)
+    Q_PROPERTY(QString welcomeSubtitle READ welcomeSubtitle CONSTANT)
+    Q_PROPERTY(QString howDoYouUseThisComputer READ howDoYouUseThisComputer CONSTANT)
+    Q_PROPERTY(QString openFromStatusIcon READ openFromStatusIcon CONSTANT)
+    Q_PROPERTY(QString clickTheStatusIcon READ clickTheStatusIcon CONSTANT)
 
 public:
     struct Words {
@@ -40,6 +44,11 @@ public:
         QString snapshotsDescription;
         // A removal succeeded but the volume has not shown the space yet.
         QString snapshotsRemovedLater;
+        // The welcome's words for the computer and for where the status icon lives.
+        QString welcomeSubtitle;
+        QString howDoYouUseThisComputer;
+        QString openFromStatusIcon;
+        QString clickTheStatusIcon;
     };
 
     // The words of `profile`, translated into the running language.
@@ -57,6 +66,10 @@ public:
     QString snapshotsDescription() const { return current().snapshotsDescription; }
     QString snapshotsRemovedLater() const { return current().snapshotsRemovedLater; }
     QString openFolderHint() const { return current().openFolderHint; }
+    QString welcomeSubtitle() const { return current().welcomeSubtitle; }
+    QString howDoYouUseThisComputer() const { return current().howDoYouUseThisComputer; }
+    QString openFromStatusIcon() const { return current().openFromStatusIcon; }
+    QString clickTheStatusIcon() const { return current().clickTheStatusIcon; }
 
 private:
     explicit DesktopWords(QObject* parent = nullptr);

@@ -20,6 +20,12 @@ const Word words[] = {
     {&DesktopWords::Words::revealProjectInFileManager, "Reveal project in Finder"},
     {&DesktopWords::Words::openStartupSettings, "Open Login Items…"},
     {&DesktopWords::Words::openFolderHint, "Double-tap to open"},
+    {&DesktopWords::Words::howDoYouUseThisComputer, "How do you use this Mac?"},
+    {&DesktopWords::Words::welcomeSubtitle,
+     "Free up space from caches and junk you don't need — cleaned safely, right from your menu bar."},
+    {&DesktopWords::Words::openFromStatusIcon, "Open Mopwell from the menu bar any time to clean up or explore the Disk Map."},
+    {&DesktopWords::Words::clickTheStatusIcon,
+     "Click the drive icon in your menu bar any time to free up space or open the Disk Map."},
 };
 
 }  // namespace
@@ -32,7 +38,7 @@ TEST(DesktopWords, TheMacKeepsItsTextsAndLinuxSaysItsOwn)
         EXPECT_EQ(mac.*word.member, QString::fromUtf8(word.mac));
         EXPECT_FALSE((onLinux.*word.member).isEmpty()) << word.mac;
         EXPECT_NE(onLinux.*word.member, mac.*word.member) << word.mac;
-        for (const char* macOnly : {"Finder", "Login Items", "macOS", "Double-tap"})
+        for (const char* macOnly : {"Finder", "Login Items", "macOS", "Double-tap", "Mac", "menu bar"})
             EXPECT_FALSE((onLinux.*word.member).contains(QString::fromUtf8(macOnly))) << word.mac;
     }
     EXPECT_EQ(onLinux.revealInFileManager, "Show in File Manager");

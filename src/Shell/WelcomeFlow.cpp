@@ -1,0 +1,130 @@
+#include "WelcomeFlow.h"
+
+#include "AppModel.h"
+
+#include <QGuiApplication>
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QScreen>
+#include <QTimer>
+
+WelcomeFlow::WelcomeFlow(QQmlEngine& engine, AppModel& model, Views views, ItemFrame statusItemFrame, QObject* parent)
+    : QObject(parent), engine_(engine), model_(model), views_(std::move(views)), statusItemFrame_(std::move(statusItemFrame))
+{
+}
+
+WelcomeFlow::~WelcomeFlow()
+{
+    delete onboarding_.data();
+    delete coachMark_.data();
+}
+
+QQuickWindow* WelcomeFlow::create(const QUrl& source, const QVariantMap& properties)
+{
+    if (source.isEmpty())
+        return nullptr;
+    QQmlComponent component(&engine_, source);
+    QObject* object = component.createWithInitialProperties(properties);
+    auto* window = qobject_cast<QQuickWindow*>(object);
+    if (!window) {
+        qWarning().noquote() << "Cannot show" << source.toString() << component.errorString();
+        delete object;
+    }
+    return window;
+}
+
+QRect WelcomeFlow::itemFrame() const
+{
+    return statusItemFrame_ ? statusItemFrame_() : QRect();
+}
+
+void WelcomeFlow::showOnboarding()
+{
+    if (!onboarding_) {
+        onboarding_ = create(views_.welcome, {{QStringLiteral("model"), QVariant::fromValue(&model_)}});
+        if (!onboarding_)
+            return;
+        // Over the screen but for its panels: the status icon stays in reach. Without a screen
+        // it keeps the size its view gives it.
+        if (QScreen* screen = QGuiApplication::primaryScreen())
+            onboarding_->setGeometry(clearOfStatusItem(screen->geometry(), screen->availableGeometry(), itemFrame()));
+        connect(onboarding_, SIGNAL(finished()), this, SLOT(finishOnboarding()));
+        // Closed some other way (the window manager), it is simply gone; the next request builds
+        // it afresh.
+        QWindow* plain = onboarding_;
+        connect(plain, &QWindow::visibleChanged, this, [plain](bool visible) {
+            if (!visible)
+                plain->deleteLater();
+        });
+    }
+    onboarding_->show();
+    onboarding_->raise();
+    onboarding_->requestActivate();
+}
+
+void WelcomeFlow::finishOnboarding()
+{
+    if (QQuickWindow* window = onboarding_.data()) {
+        onboarding_ = nullptr;
+        window->close();
+    }
+    emit onboardingFinished();
+    showMenuBarCoachMark();
+}
+
+QRect WelcomeFlow::clearOfStatusItem(const QRect& screen, const QRect& available, const QRect& itemFrame)
+{
+    QRect area = available.isValid() ? available.intersected(screen) : screen;
+    if (!itemFrame.isValid() || !area.intersects(itemFrame))
+        return area;
+    if (itemFrame.center().y() <= screen.center().y())
+        area.setTop(itemFrame.bottom() + 1);
+    else
+        area.setBottom(itemFrame.top() - 1);
+    return area;
+}
+
+WelcomeFlow::CoachMarkPlacement WelcomeFlow::placeCoachMark(const QRect& screen, const QRect& available,
+                                                             const QRect& itemFrame)
+{
+    const bool known = itemFrame.isValid();
+    CoachMarkPlacement placement;
+    placement.pointsUp = !known || itemFrame.center().y() <= screen.center().y();
+    const QRect clear = clearOfStatusItem(screen, available, itemFrame);
+    const int top = placement.pointsUp ? clear.top() : clear.bottom() + 1 - coachMarkHeight;
+    placement.strip = QRect(screen.left(), top, screen.width(), coachMarkHeight);
+    const int iconX = known ? itemFrame.center().x() : screen.right() + 1 - iconFallbackInset;
+    placement.iconX = iconX - placement.strip.left();
+    return placement;
+}
+
+void WelcomeFlow::showMenuBarCoachMark()
+{
+    QScreen* screen = QGuiApplication::primaryScreen();
+    if (coachMark_ || !screen)
+        return;
+    const CoachMarkPlacement placement = placeCoachMark(screen->geometry(), screen->availableGeometry(), itemFrame());
+    coachMark_ = create(views_.coachMark, {{QStringLiteral("iconX"), placement.iconX},
+                                           {QStringLiteral("pointsUp"), placement.pointsUp}});
+    if (!coachMark_)
+        return;
+    coachMark_->setGeometry(placement.strip);
+    connect(coachMark_, SIGNAL(dismissed()), this, SLOT(dismissCoachMark()));
+    // Shown without taking the focus from whatever the user is doing.
+    coachMark_->show();
+    // The timer goes with this bubble: a later one is not cut short by it.
+    QPointer<QQuickWindow> shown = coachMark_;
+    QTimer::singleShot(coachMarkLifetime_, this, [this, shown] {
+        if (shown && shown == coachMark_)
+            dismissCoachMark();
+    });
+}
+
+void WelcomeFlow::dismissCoachMark()
+{
+    if (QQuickWindow* window = coachMark_.data()) {
+        coachMark_ = nullptr;
+        window->close();
+        window->deleteLater();
+    }
+}
