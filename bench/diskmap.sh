@@ -1,65 +1,166 @@
 #!/usr/bin/env bash
-# The disk map's walk against du -s, ncdu and gdu, and the floor (the minimal walk making the same
-# system calls), on one deterministic tree with a warm cache: wall time with hyperfine, then the
-# peak memory each tool adds over its own start-up on an empty folder, per item of the tree.
+# The disk map's walk against du -s, ncdu and gdu, and the floor (bench/walk-floor.c: one listing
+# per folder, one fstatat per entry, nothing else), on deterministic trees of several shapes:
+#   - wall time with a warm cache (hyperfine);
+#   - wall time with a cold one: the page, dentry and inode caches dropped before every run, then
+#     the command run once on an empty folder so that loading its own code is not timed (as root
+#     only: elsewhere this round is skipped, and said so);
+#   - the peak memory each tool adds over its own start on an empty folder, per item of the tree.
 #
-#   bench/diskmap.sh [FILES [FOLDERS [SEED]]]     defaults: 200000 20000 1
-#   BUILD=build-other bench/diskmap.sh            builds and runs from another build folder
+#   bench/diskmap.sh [SHAPE...]           default: wide broad deep
+#     wide    200,000 files in 20,000 folders: about 10 a folder, 20 to 30 levels deep
+#     broad   200,000 files in 1,000 folders: about 200 a folder
+#     deep    10,000 files along one path of 2,000 folders: about 5 a level
+#     FILES:FOLDERS[:random|chain]        any other tree (bench/make-tree.cpp)
+#   RUNS=15 COLD_RUNS=5 COLD=0 BUILD=build-other bench/diskmap.sh ...
+#   BASELINE=/tmp/mopwell-scan.old bench/diskmap.sh   also times an earlier build of mopwell-scan in
+#                                       the same run, and checks that both print the same JSON
+#
+# Other work on the machine skews the figures: run it holding the build lock, so no build or test
+# runs meanwhile, and run it more than once.
+#   flock /tmp/mopwell-build.lock bench/diskmap.sh
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . bench/peers.sh
 install_peers hyperfine ncdu gdu time
 
-files=${1:-200000} folders=${2:-20000} seed=${3:-1}
 build=${BUILD:-build}
+runs=${RUNS:-15} coldRuns=${COLD_RUNS:-5}
 cmake -S . -B "$build" -G Ninja >/dev/null
 cmake --build "$build" --target mopwell-scan make-tree walk-floor >/dev/null
-tree="${TMPDIR:-/tmp}/mopwell-bench-$files-$folders-$seed"
-[ -d "$tree" ] || "$build/bench/make-tree" "$tree" "$files" "$folders" "$seed"
-# On a Linux desktop the disk map walks hidden entries as the peers do, so every tool does the
-# same work on the tree as it is.
+shapes=("$@")
+[ ${#shapes[@]} -gt 0 ] || shapes=(wide broad deep)
+
+cold=${COLD:-1}
+if [ "$cold" = 1 ] && [ "$(id -u)" -ne 0 ]; then
+  echo "not root: the cold-cache round is skipped (it needs to write /proc/sys/vm/drop_caches)"
+  cold=0
+fi
+
 empty=$(mktemp -d)
-csv=$(mktemp)
-trap 'rm -rf "$empty" "$csv"' EXIT
+work=$(mktemp -d)
+trap 'rm -rf "$empty" "$work"' EXIT
 
-items=$(find "$tree" -mindepth 1 | wc -l)
-echo "tree: $tree, $items items"
-echo "mopwell-scan: $("$build/tools/mopwell-scan" diskmap "$tree")"
-
+order=(floor "du -s" "ncdu -o /dev/null -x" "gdu -n -p" "mopwell-scan diskmap")
 declare -A commands=(
   [floor]="$build/bench/walk-floor"
   ["du -s"]="du -s"
-  ["ncdu -o /dev/null"]="ncdu -o /dev/null"
+  ["ncdu -o /dev/null -x"]="ncdu -o /dev/null -x"
   ["gdu -n -p"]="gdu -n -p"
   ["mopwell-scan diskmap"]="$build/tools/mopwell-scan diskmap"
 )
-order=(floor "du -s" "ncdu -o /dev/null" "gdu -n -p" "mopwell-scan diskmap")
+if [ -n "${BASELINE:-}" ]; then
+  order+=("baseline diskmap")
+  commands["baseline diskmap"]="$BASELINE diskmap"
+fi
 
-args=()
-for name in "${order[@]}"; do
-  args+=(-n "$name" "${commands[$name]} $tree >/dev/null 2>&1")
-done
-hyperfine --style basic --warmup 3 --runs 15 --export-csv "$csv" "${args[@]}" >/dev/null
-echo "wall time, warm cache ($files files, $folders folders):"
-print_ratios "$csv" floor
+# Prints the tree's folder for a shape, making the tree the first time.
+tree_for() {
+  local files folders kind
+  case $1 in
+    wide) files=200000 folders=20000 kind=random ;;
+    broad) files=200000 folders=1000 kind=random ;;
+    deep) files=10000 folders=2000 kind=chain ;;
+    *:*) IFS=: read -r files folders kind <<<"$1"; kind=${kind:-random} ;;
+    *) echo "unknown shape: $1" >&2; exit 2 ;;
+  esac
+  local tree="${TMPDIR:-/tmp}/mopwell-bench-$files-$folders-1"
+  [ "$kind" = random ] || tree+="-$kind"
+  if [ ! -d "$tree" ]; then
+    "$build/bench/make-tree" "$tree.part" "$files" "$folders" 1 "$kind" >/dev/null
+    mv "$tree.part" "$tree"
+  fi
+  echo "$tree"
+}
+
+# Times every command on the tree; with "cold", each run starts from dropped caches.
+# Leaves hyperfine's CSV in $work/$2.csv.
+time_all() {
+  local tree=$1 round=$2 args=()
+  for name in "${order[@]}"; do
+    if [ "$round" = cold ]; then
+      args+=(--prepare "sh -c 'sync; echo 3 > /proc/sys/vm/drop_caches; ${commands[$name]} $empty >/dev/null 2>&1'")
+    fi
+    args+=(-n "$name" "${commands[$name]} $tree")
+  done
+  if [ "$round" = cold ]; then
+    hyperfine -N --style none --runs "$coldRuns" --export-csv "$work/$round.csv" "${args[@]}" >/dev/null
+  else
+    hyperfine -N --style none --warmup 3 --runs "$runs" --export-csv "$work/$round.csv" "${args[@]}" >/dev/null
+  fi
+}
+
+# One line per command: median, mean ± standard deviation, range, and the median over the floor's.
+print_times() {
+  awk -F, '
+    NR == 1 { next }
+    { name[NR] = $1; mean[NR] = $2; sd[NR] = $3; median[NR] = $4; least[NR] = $7; most[NR] = $8
+      if ($1 == "floor") base = $4 }
+    END {
+      printf "  %-22s %9s %20s %19s %9s\n", "", "median", "mean ± sd", "range", "x floor"
+      for (i = 2; i <= NR; i++)
+        printf "  %-22s %6.1f ms %10.1f ± %5.1f ms %7.1f … %7.1f ms %8.3f\n", name[i], median[i] * 1000,
+               mean[i] * 1000, sd[i] * 1000, least[i] * 1000, most[i] * 1000, median[i] / base
+    }' "$1"
+}
+
+# The ratio of a command's median to the floor's, from a CSV.
+ratio() {
+  awk -F, -v n="$2" 'NR > 1 { m[$1] = $4 } END { printf "%.3f", m[n] / m["floor"] }' "$1"
+}
 
 peak_kb() {  # the highest resident set of one run, in KB
   /usr/bin/time -v $1 "$2" 2>&1 >/dev/null | awk -F': ' '/Maximum resident set size/ { print $2 }'
 }
-echo "peak memory over an empty folder's, per item:"
-declare -A perItem
-for name in "${order[@]}"; do
-  [ "$name" = floor ] && continue
-  best=""
-  for _ in 1 2 3; do  # the least of three runs, as a parallel walker's peak varies
-    kb=$(peak_kb "${commands[$name]}" "$tree")
-    [ -z "$best" ] || [ "$kb" -lt "$best" ] && best=$kb
+
+# Bytes per item each tool adds over its start on an empty folder; the least of three runs, as a
+# parallel walker's peak varies.
+print_memory() {
+  local tree=$1 items=$2
+  for name in "${order[@]}"; do
+    [ "$name" = floor ] && continue
+    local best="" kb base
+    for _ in 1 2 3; do
+      kb=$(peak_kb "${commands[$name]}" "$tree")
+      if [ -z "$best" ] || [ "$kb" -lt "$best" ]; then best=$kb; fi
+    done
+    base=$(peak_kb "${commands[$name]}" "$empty")
+    perItem=$(awk -v p="$best" -v b="$base" -v n="$items" 'BEGIN { printf "%.1f", (p - b) * 1024 / n }')
+    printf "  %-22s peak %7d KB, empty %6d KB, %7s bytes per item\n" "$name" "$best" "$base" "$perItem"
+    [ "$name" = "mopwell-scan diskmap" ] && echo "$perItem" >"$work/memory"
   done
-  base=$(peak_kb "${commands[$name]}" "$empty")
-  perItem[$name]=$(awk -v p="$best" -v b="$base" -v n="$items" 'BEGIN { printf "%.1f", (p - b) * 1024 / n }')
-  printf "  %-24s peak %7d KB, empty %6d KB, %7s bytes per item\n" "$name" "$best" "$base" "${perItem[$name]}"
+}
+
+summary=()
+for shape in "${shapes[@]}"; do
+  tree=$(tree_for "$shape")
+  items=$(find "$tree" -mindepth 1 | wc -l)
+  echo "== $shape: $tree, $items items"
+  echo "  mopwell-scan: $("$build/tools/mopwell-scan" diskmap "$tree")"
+  if [ -n "${BASELINE:-}" ]; then
+    if cmp -s <("$build/tools/mopwell-scan" diskmap "$tree" --json) <("$BASELINE" diskmap "$tree" --json); then
+      echo "  the baseline prints the same JSON, byte for byte"
+    else
+      echo "  THE BASELINE PRINTS DIFFERENT JSON"
+    fi
+  fi
+  time_all "$tree" warm
+  echo "wall time, warm cache ($runs runs each):"
+  print_times "$work/warm.csv"
+  line="$shape warm $(ratio "$work/warm.csv" "mopwell-scan diskmap") du $(ratio "$work/warm.csv" "du -s")"
+  line+=" ncdu $(ratio "$work/warm.csv" "ncdu -o /dev/null -x") gdu $(ratio "$work/warm.csv" "gdu -n -p")"
+  if [ "$cold" = 1 ]; then
+    time_all "$tree" cold
+    echo "wall time, cold cache ($coldRuns runs each, caches dropped before every run):"
+    print_times "$work/cold.csv"
+    line+=" | cold $(ratio "$work/cold.csv" "mopwell-scan diskmap") du $(ratio "$work/cold.csv" "du -s")"
+    line+=" ncdu $(ratio "$work/cold.csv" "ncdu -o /dev/null -x") gdu $(ratio "$work/cold.csv" "gdu -n -p")"
+  fi
+  echo "peak memory over an empty folder's, per item:"
+  print_memory "$tree" "$items"
+  summary+=("$line | $(cat "$work/memory") B/item")
 done
-for name in "du -s" "ncdu -o /dev/null" "mopwell-scan diskmap"; do
-  awk -v a="${perItem[$name]}" -v g="${perItem["gdu -n -p"]}" -v n="$name" \
-    'BEGIN { printf "  %-24s %.2f x gdu -n -p\n", n, a / g }'
-done
+
+echo "== mopwell-scan diskmap, each over the floor (peers alike); goals: warm ≤ 1.05, cold ≤ 1.1,"
+echo "   below du and ncdu in both, ≤ 80 bytes per item"
+printf '  %s\n' "${summary[@]}"

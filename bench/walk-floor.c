@@ -6,6 +6,7 @@
 #include <fcntl.h>
 #include <stdio.h>
 #include <string.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -42,6 +43,12 @@ int main(int argc, char **argv)
     if (argc != 2) {
         fprintf(stderr, "usage: walk-floor PATH\n");
         return 2;
+    }
+    /* One descriptor per level: a tree thousands of levels deep needs more than the usual 1,024. */
+    struct rlimit limit;
+    if (getrlimit(RLIMIT_NOFILE, &limit) == 0 && limit.rlim_cur < limit.rlim_max) {
+        limit.rlim_cur = limit.rlim_max;
+        setrlimit(RLIMIT_NOFILE, &limit);
     }
     int root = open(argv[1], O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (root < 0) {
