@@ -57,10 +57,6 @@
         <source>Ready to free up</source>
         <translation>Bereit zum Freigeben</translation>
     </message>
-    <message>
-        <source>Open Mopwell from the menu bar any time to clean up or explore the Disk Map.</source>
-        <translation>Öffnen Sie Mopwell jederzeit über die Menüleiste, um aufzuräumen oder die Festplattenkarte zu erkunden.</translation>
-    </message>
 </context>
 <context>
     <name>AlertDialog</name>
@@ -241,6 +237,144 @@
     </message>
 </context>
 <context>
+    <name>CleanupCatalog</name>
+    <message>
+        <source>App cache files</source>
+        <translation>App-Cache-Dateien</translation>
+    </message>
+    <message>
+        <source>Trash</source>
+        <translation>Papierkorb</translation>
+    </message>
+    <message>
+        <source>Display server logs</source>
+        <translation>Protokolle des Displayservers</translation>
+    </message>
+    <message>
+        <source>Saved session state</source>
+        <translation>Gesicherter Sitzungszustand</translation>
+    </message>
+    <message>
+        <source>Thumbnails</source>
+        <translation>Miniaturansichten</translation>
+    </message>
+    <message>
+        <source>Flatpak app caches</source>
+        <translation>Caches von Flatpak-Apps</translation>
+    </message>
+    <message>
+        <source>Google Chrome cache</source>
+        <translation>Google-Chrome-Cache</translation>
+    </message>
+    <message>
+        <source>Chromium cache</source>
+        <translation>Chromium-Cache</translation>
+    </message>
+    <message>
+        <source>Firefox cache</source>
+        <translation>Firefox-Cache</translation>
+    </message>
+    <message>
+        <source>Gradle caches</source>
+        <translation>Gradle-Caches</translation>
+    </message>
+    <message>
+        <source>npm cache</source>
+        <translation>npm-Cache</translation>
+    </message>
+    <message>
+        <source>Yarn cache</source>
+        <translation>Yarn-Cache</translation>
+    </message>
+    <message>
+        <source>pnpm store</source>
+        <translation>pnpm-Speicher</translation>
+    </message>
+    <message>
+        <source>uv cache</source>
+        <translation>uv-Cache</translation>
+    </message>
+    <message>
+        <source>pip cache</source>
+        <translation>pip-Cache</translation>
+    </message>
+    <message>
+        <source>Flutter / pub cache</source>
+        <translation>Flutter-/pub-Cache</translation>
+    </message>
+    <message>
+        <source>Go module cache</source>
+        <translation>Go-Modul-Cache</translation>
+    </message>
+    <message>
+        <source>Cargo registry cache</source>
+        <translation>Cargo-Registry-Cache</translation>
+    </message>
+    <message>
+        <source>Docker prune</source>
+        <translation>Docker aufräumen</translation>
+    </message>
+    <message>
+        <source>JetBrains caches</source>
+        <translation>JetBrains-Caches</translation>
+    </message>
+    <message>
+        <source>Homebrew cleanup</source>
+        <translation>Homebrew aufräumen</translation>
+    </message>
+    <message>
+        <source>Swift / build tool caches</source>
+        <translation>Swift-/Build-Werkzeug-Caches</translation>
+    </message>
+    <message>
+        <source>ML / browser-automation caches</source>
+        <translation>ML-/Browser-Automatisierungs-Caches</translation>
+    </message>
+    <message>
+        <source>node_modules folders</source>
+        <translation>node_modules-Ordner</translation>
+    </message>
+    <message>
+        <source>Next.js build output</source>
+        <translation>Next.js-Build-Ausgabe</translation>
+    </message>
+    <message>
+        <source>Rust target folders</source>
+        <translation>Rust-target-Ordner</translation>
+    </message>
+    <message>
+        <source>Python __pycache__</source>
+        <translation>Python-__pycache__</translation>
+    </message>
+    <message>
+        <source>Python virtualenvs</source>
+        <translation>Virtuelle Python-Umgebungen</translation>
+    </message>
+</context>
+<context>
+    <name>CleanupCategory</name>
+    <message>
+        <source>Recommended</source>
+        <translation>Empfohlen</translation>
+    </message>
+    <message>
+        <source>Browser caches</source>
+        <translation>Browser-Caches</translation>
+    </message>
+    <message>
+        <source>Developer caches</source>
+        <translation>Entwickler-Caches</translation>
+    </message>
+    <message>
+        <source>Build artifacts</source>
+        <translation>Build-Artefakte</translation>
+    </message>
+    <message>
+        <source>Custom folders</source>
+        <translation>Eigene Ordner</translation>
+    </message>
+</context>
+<context>
     <name>ConfirmSheet</name>
     <message>
         <source>%1 item</source>
@@ -355,6 +489,38 @@
     <message>
         <source>Snapshots removed — the file system may report the freed space in a moment.</source>
         <translation>Schnappschüsse entfernt – das Dateisystem zeigt den freigegebenen Platz eventuell erst gleich an.</translation>
+    </message>
+    <message>
+        <source>Free up space from caches and junk you don&apos;t need — cleaned safely, right from your menu bar.</source>
+        <translation>Geben Sie Platz frei, den Caches und unnötiger Kram belegen – sicher bereinigt, direkt aus der Menüleiste.</translation>
+    </message>
+    <message>
+        <source>How do you use this Mac?</source>
+        <translation>Wie nutzen Sie diesen Mac?</translation>
+    </message>
+    <message>
+        <source>Open Mopwell from the menu bar any time to clean up or explore the Disk Map.</source>
+        <translation>Öffnen Sie Mopwell jederzeit über die Menüleiste, um aufzuräumen oder die Festplattenkarte zu erkunden.</translation>
+    </message>
+    <message>
+        <source>Click the drive icon in your menu bar any time to free up space or open the Disk Map.</source>
+        <translation>Klicken Sie jederzeit auf das Laufwerkssymbol in der Menüleiste, um Platz freizugeben oder die Festplattenkarte zu öffnen.</translation>
+    </message>
+    <message>
+        <source>Free up space from caches and junk you don&apos;t need — cleaned safely, right from your panel.</source>
+        <translation>Geben Sie Platz frei, den Caches und unnötiger Kram belegen – sicher bereinigt, direkt aus der Leiste Ihrer Arbeitsumgebung.</translation>
+    </message>
+    <message>
+        <source>How do you use this computer?</source>
+        <translation>Wie nutzen Sie diesen Computer?</translation>
+    </message>
+    <message>
+        <source>Open Mopwell from its icon in the panel any time to clean up or explore the Disk Map.</source>
+        <translation>Öffnen Sie Mopwell jederzeit über sein Symbol in der Leiste, um aufzuräumen oder die Festplattenkarte zu erkunden.</translation>
+    </message>
+    <message>
+        <source>Click Mopwell&apos;s icon in your panel any time to free up space or open the Disk Map.</source>
+        <translation>Klicken Sie jederzeit auf das Symbol von Mopwell in der Leiste, um Platz freizugeben oder die Festplattenkarte zu öffnen.</translation>
     </message>
 </context>
 <context>
@@ -811,10 +977,6 @@
         <translation>Mopwell wohnt hier unten</translation>
     </message>
     <message>
-        <source>Click the drive icon in your menu bar any time to free up space or open the Disk Map.</source>
-        <translation>Klicken Sie jederzeit auf das Laufwerkssymbol in der Menüleiste, um Platz freizugeben oder die Festplattenkarte zu öffnen.</translation>
-    </message>
-    <message>
         <source>Got it</source>
         <translation>Verstanden</translation>
     </message>
@@ -1004,10 +1166,6 @@
 </context>
 <context>
     <name>PersonalizeStep</name>
-    <message>
-        <source>How do you use this Mac?</source>
-        <translation>Wie nutzen Sie diesen Mac?</translation>
-    </message>
     <message>
         <source>This just decides how much detail you see — you can switch any time.</source>
         <translation>Das bestimmt nur, wie viele Details Sie sehen – Sie können jederzeit wechseln.</translation>
@@ -1423,6 +1581,21 @@
     </message>
 </context>
 <context>
+    <name>SimpleGroup</name>
+    <message>
+        <source>System &amp; app caches</source>
+        <translation>System- &amp; App-Caches</translation>
+    </message>
+    <message>
+        <source>Browser caches</source>
+        <translation>Browser-Caches</translation>
+    </message>
+    <message>
+        <source>Trash</source>
+        <translation>Papierkorb</translation>
+    </message>
+</context>
+<context>
     <name>SimpleGroupRow</name>
     <message>
         <source>Include in clean-up</source>
@@ -1799,10 +1972,6 @@
     <message>
         <source>Welcome to Mopwell</source>
         <translation>Willkommen bei Mopwell</translation>
-    </message>
-    <message>
-        <source>Free up space from caches and junk you don&apos;t need — cleaned safely, right from your menu bar.</source>
-        <translation>Geben Sie Platz frei, den Caches und unnötiger Kram belegen – sicher bereinigt, direkt aus der Menüleiste.</translation>
     </message>
 </context>
 <context>

@@ -57,10 +57,6 @@
         <source>Ready to free up</source>
         <translation>Prêt à libérer</translation>
     </message>
-    <message>
-        <source>Open Mopwell from the menu bar any time to clean up or explore the Disk Map.</source>
-        <translation>Ouvrez Mopwell depuis la barre des menus à tout moment pour nettoyer ou explorer la carte du disque.</translation>
-    </message>
 </context>
 <context>
     <name>AlertDialog</name>
@@ -241,6 +237,144 @@
     </message>
 </context>
 <context>
+    <name>CleanupCatalog</name>
+    <message>
+        <source>App cache files</source>
+        <translation>Fichiers de cache des apps</translation>
+    </message>
+    <message>
+        <source>Trash</source>
+        <translation>Corbeille</translation>
+    </message>
+    <message>
+        <source>Display server logs</source>
+        <translation>Journaux du serveur d’affichage</translation>
+    </message>
+    <message>
+        <source>Saved session state</source>
+        <translation>État de session enregistré</translation>
+    </message>
+    <message>
+        <source>Thumbnails</source>
+        <translation>Miniatures</translation>
+    </message>
+    <message>
+        <source>Flatpak app caches</source>
+        <translation>Caches des applications Flatpak</translation>
+    </message>
+    <message>
+        <source>Google Chrome cache</source>
+        <translation>Cache de Google Chrome</translation>
+    </message>
+    <message>
+        <source>Chromium cache</source>
+        <translation>Cache de Chromium</translation>
+    </message>
+    <message>
+        <source>Firefox cache</source>
+        <translation>Cache de Firefox</translation>
+    </message>
+    <message>
+        <source>Gradle caches</source>
+        <translation>Caches Gradle</translation>
+    </message>
+    <message>
+        <source>npm cache</source>
+        <translation>Cache npm</translation>
+    </message>
+    <message>
+        <source>Yarn cache</source>
+        <translation>Cache Yarn</translation>
+    </message>
+    <message>
+        <source>pnpm store</source>
+        <translation>Magasin pnpm</translation>
+    </message>
+    <message>
+        <source>uv cache</source>
+        <translation>Cache uv</translation>
+    </message>
+    <message>
+        <source>pip cache</source>
+        <translation>Cache pip</translation>
+    </message>
+    <message>
+        <source>Flutter / pub cache</source>
+        <translation>Cache Flutter / pub</translation>
+    </message>
+    <message>
+        <source>Go module cache</source>
+        <translation>Cache des modules Go</translation>
+    </message>
+    <message>
+        <source>Cargo registry cache</source>
+        <translation>Cache du registre Cargo</translation>
+    </message>
+    <message>
+        <source>Docker prune</source>
+        <translation>Nettoyage Docker</translation>
+    </message>
+    <message>
+        <source>JetBrains caches</source>
+        <translation>Caches JetBrains</translation>
+    </message>
+    <message>
+        <source>Homebrew cleanup</source>
+        <translation>Nettoyage Homebrew</translation>
+    </message>
+    <message>
+        <source>Swift / build tool caches</source>
+        <translation>Caches Swift / outils de compilation</translation>
+    </message>
+    <message>
+        <source>ML / browser-automation caches</source>
+        <translation>Caches ML / automatisation de navigateur</translation>
+    </message>
+    <message>
+        <source>node_modules folders</source>
+        <translation>Dossiers node_modules</translation>
+    </message>
+    <message>
+        <source>Next.js build output</source>
+        <translation>Sortie de compilation Next.js</translation>
+    </message>
+    <message>
+        <source>Rust target folders</source>
+        <translation>Dossiers target de Rust</translation>
+    </message>
+    <message>
+        <source>Python __pycache__</source>
+        <translation>__pycache__ de Python</translation>
+    </message>
+    <message>
+        <source>Python virtualenvs</source>
+        <translation>Environnements virtuels Python</translation>
+    </message>
+</context>
+<context>
+    <name>CleanupCategory</name>
+    <message>
+        <source>Recommended</source>
+        <translation>Recommandé</translation>
+    </message>
+    <message>
+        <source>Browser caches</source>
+        <translation>Caches des navigateurs</translation>
+    </message>
+    <message>
+        <source>Developer caches</source>
+        <translation>Caches de développement</translation>
+    </message>
+    <message>
+        <source>Build artifacts</source>
+        <translation>Artefacts de compilation</translation>
+    </message>
+    <message>
+        <source>Custom folders</source>
+        <translation>Dossiers personnalisés</translation>
+    </message>
+</context>
+<context>
     <name>ConfirmSheet</name>
     <message>
         <source>%1 item</source>
@@ -355,6 +489,38 @@
     <message>
         <source>Snapshots removed — the file system may report the freed space in a moment.</source>
         <translation>Instantanés supprimés — le système de fichiers peut indiquer l’espace libéré dans un instant.</translation>
+    </message>
+    <message>
+        <source>Free up space from caches and junk you don&apos;t need — cleaned safely, right from your menu bar.</source>
+        <translation>Libérez l’espace occupé par les caches et les fichiers inutiles — nettoyé en toute sécurité, directement depuis la barre des menus.</translation>
+    </message>
+    <message>
+        <source>How do you use this Mac?</source>
+        <translation>Comment utilisez-vous ce Mac ?</translation>
+    </message>
+    <message>
+        <source>Open Mopwell from the menu bar any time to clean up or explore the Disk Map.</source>
+        <translation>Ouvrez Mopwell depuis la barre des menus à tout moment pour nettoyer ou explorer la carte du disque.</translation>
+    </message>
+    <message>
+        <source>Click the drive icon in your menu bar any time to free up space or open the Disk Map.</source>
+        <translation>Cliquez à tout moment sur l’icône du disque dans la barre des menus pour libérer de l’espace ou ouvrir la carte du disque.</translation>
+    </message>
+    <message>
+        <source>Free up space from caches and junk you don&apos;t need — cleaned safely, right from your panel.</source>
+        <translation>Libérez l’espace occupé par les caches et les fichiers inutiles — nettoyé en toute sécurité, directement depuis votre barre de tâches.</translation>
+    </message>
+    <message>
+        <source>How do you use this computer?</source>
+        <translation>Comment utilisez-vous cet ordinateur ?</translation>
+    </message>
+    <message>
+        <source>Open Mopwell from its icon in the panel any time to clean up or explore the Disk Map.</source>
+        <translation>Ouvrez Mopwell depuis son icône dans la barre de tâches à tout moment pour nettoyer ou explorer la carte du disque.</translation>
+    </message>
+    <message>
+        <source>Click Mopwell&apos;s icon in your panel any time to free up space or open the Disk Map.</source>
+        <translation>Cliquez à tout moment sur l’icône de Mopwell dans la barre de tâches pour libérer de l’espace ou ouvrir la carte du disque.</translation>
     </message>
 </context>
 <context>
@@ -811,10 +977,6 @@
         <translation>Mopwell se trouve ici, en bas</translation>
     </message>
     <message>
-        <source>Click the drive icon in your menu bar any time to free up space or open the Disk Map.</source>
-        <translation>Cliquez à tout moment sur l’icône du disque dans la barre des menus pour libérer de l’espace ou ouvrir la carte du disque.</translation>
-    </message>
-    <message>
         <source>Got it</source>
         <translation>Compris</translation>
     </message>
@@ -1004,10 +1166,6 @@
 </context>
 <context>
     <name>PersonalizeStep</name>
-    <message>
-        <source>How do you use this Mac?</source>
-        <translation>Comment utilisez-vous ce Mac ?</translation>
-    </message>
     <message>
         <source>This just decides how much detail you see — you can switch any time.</source>
         <translation>Cela détermine seulement le niveau de détail affiché — vous pouvez changer à tout moment.</translation>
@@ -1423,6 +1581,21 @@
     </message>
 </context>
 <context>
+    <name>SimpleGroup</name>
+    <message>
+        <source>System &amp; app caches</source>
+        <translation>Caches du système et des apps</translation>
+    </message>
+    <message>
+        <source>Browser caches</source>
+        <translation>Caches des navigateurs</translation>
+    </message>
+    <message>
+        <source>Trash</source>
+        <translation>Corbeille</translation>
+    </message>
+</context>
+<context>
     <name>SimpleGroupRow</name>
     <message>
         <source>Include in clean-up</source>
@@ -1799,10 +1972,6 @@
     <message>
         <source>Welcome to Mopwell</source>
         <translation>Bienvenue dans Mopwell</translation>
-    </message>
-    <message>
-        <source>Free up space from caches and junk you don&apos;t need — cleaned safely, right from your menu bar.</source>
-        <translation>Libérez l’espace occupé par les caches et les fichiers inutiles — nettoyé en toute sécurité, directement depuis la barre des menus.</translation>
     </message>
 </context>
 <context>

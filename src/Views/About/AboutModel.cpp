@@ -1,6 +1,7 @@
 #include "AboutModel.h"
 
 #include "AppModel.h"
+#include "CatalogWords.h"
 #include "Formatter.h"
 #include "Platform/ByteCountFormatter.h"
 #include "Platform/Workspace.h"
@@ -56,11 +57,7 @@ QVariantList AboutModel::history() const
         return rows;
     for (const CleanRecord& record : model_->history()) {
         const bool restored = record.restored.value_or(false);
-        // The names of catalog rows read in the running language; other names may be file names,
-        // which are bytes and stay as they are.
-        const QString name = Utf8::isValid(record.targetName)
-            ? QCoreApplication::translate("CleanupCatalog", record.targetName.c_str())
-            : toQt(record.targetName);
+        const QString name = CatalogWords::targetName(record.targetName);
         rows.append(QVariantMap{
             {"id", QString::fromStdString(record.id.string())},
             {"name", name},

@@ -1,6 +1,7 @@
 #include "OptionalCaches.h"
 
 #include "AppModel.h"
+#include "CatalogWords.h"
 #include "Models/CleanupCatalog.h"
 #include "QtConversions.h"
 
@@ -54,7 +55,7 @@ QVariantList OptionalCaches::rowsFor(PlatformProfile profile)
             {"id", QString::fromLatin1(cache.id)},
             {"setting", QString::fromLatin1(cache.setting)},
             {"symbol", QtConversions::toQt(row->symbol)},
-            {"title", QCoreApplication::translate("CleanupCatalog", row->name.c_str())},
+            {"title", CatalogWords::targetName(row->name)},
             {"caption", translated(cache.caption)},
             {"subtitle", translated(cache.subtitle)},
         });

@@ -1,6 +1,7 @@
 #include "TargetListModel.h"
 
 #include "AppModel.h"
+#include "CatalogWords.h"
 #include "Platform/ByteCountFormatter.h"
 #include "QtConversions.h"
 
@@ -66,7 +67,7 @@ QVariant TargetListModel::data(const QModelIndex& index, int role) const
     const CleanupTarget& target = row.target;
     switch (role) {
     case IdRole: return toQt(target.id);
-    case NameRole: return toQt(target.name);
+    case NameRole: return CatalogWords::targetName(target.name);
     case SymbolRole: return toQt(target.symbol);
     case DetailRole: return toQt(target.detail);
     case SizeTextRole: return row.size ? toQt(ByteCountFormatter::string(*row.size)) : QStringLiteral("—");
