@@ -2,18 +2,31 @@
 
 #include "Platform/PosixItemInfo.h"
 
+#include <algorithm>
 #include <cstring>
 #include <dirent.h>
 #include <fcntl.h>
 #include <string>
+#include <sys/resource.h>
 #include <unistd.h>
 #include <vector>
 
 namespace {
 
-// Folders shallower than this keep their descriptor open while their contents are walked;
-// deeper ones are closed on the way down and reopened through "..".
-constexpr int openDepthLimit = 64;
+// Folders shallower than a limit keep their descriptor open while their contents are walked;
+// deeper ones are closed on the way down and reopened through "..", which costs two calls a
+// level. The limit is a quarter of the descriptors the process may open, so a walk leaves room
+// for everything else, and lies between these.
+constexpr int leastOpenDepth = 64;
+constexpr int mostOpenDepth = 4096;
+
+int openDepthLimit()
+{
+    struct rlimit limit {};
+    if (getrlimit(RLIMIT_NOFILE, &limit) != 0 || limit.rlim_cur == RLIM_INFINITY)
+        return leastOpenDepth;
+    return static_cast<int>(std::clamp<rlim_t>(limit.rlim_cur / 4, leastOpenDepth, mostOpenDepth));
+}
 
 // A folder's listing lives in the walk's shared name buffer, from `listingStart` up to where the
 // next folder's begins: each name followed by a zero byte. The folders open at any time are the
@@ -32,22 +45,27 @@ struct Frame {
 };
 
 // Appends the names of the folder open at `descriptor`, without "." and "..", each followed by
-// a zero byte. Reads the kernel's records straight into one reused buffer: no directory stream
-// to allocate, and no duplicate descriptor to give it. A read that fails ends the listing with
-// what was read, as a directory stream would.
-void appendListing(int descriptor, std::string& names, std::vector<std::uint64_t>& buffer)
+// a zero byte, and sets `self` to the inode number "." is listed with (0 if it isn't). Reads the
+// kernel's records straight into one reused buffer: no directory stream to allocate, and no
+// duplicate descriptor to give it. A read that fails ends the listing with what was read, and
+// false.
+bool appendListing(int descriptor, std::string& names, std::vector<std::uint64_t>& buffer, std::uint64_t& self)
 {
+    self = 0;
     const auto bytes = reinterpret_cast<char*>(buffer.data());
     for (;;) {
         const ssize_t got = getdents64(descriptor, bytes, buffer.size() * sizeof(std::uint64_t));
         if (got <= 0)
-            return;
+            return got == 0;
         for (ssize_t at = 0; at < got;) {
             const auto* entry = reinterpret_cast<const struct dirent64*>(bytes + at);
             at += entry->d_reclen;
             const char* name = entry->d_name;
-            if (name[0] == '.' && (name[1] == '\0' || (name[1] == '.' && name[2] == '\0')))
+            if (name[0] == '.' && (name[1] == '\0' || (name[1] == '.' && name[2] == '\0'))) {
+                if (name[1] == '\0')
+                    self = entry->d_ino;
                 continue;
+            }
             names.append(name, std::strlen(name) + 1);
         }
     }
@@ -62,7 +80,10 @@ bool sameItem(int descriptor, std::uint64_t device, std::uint64_t inode)
 
 class Walk {
 public:
-    explicit Walk(DirectoryWalker::Visitor& visitor) : visitor_(visitor), buffer_(listingBufferWords) {}
+    explicit Walk(DirectoryWalker::Visitor& visitor)
+        : visitor_(visitor), buffer_(listingBufferWords), openDepthLimit_(openDepthLimit())
+    {
+    }
 
     ~Walk()
     {
@@ -78,9 +99,15 @@ public:
         struct stat status {};
         if (fstat(rootDescriptor, &status) != 0 || !S_ISDIR(status.st_mode))
             return false;
-        appendListing(rootDescriptor, names_, buffer_);
+        const ItemInfo info = itemInfoFrom(status);
+        std::uint64_t self = 0;
+        if (!appendListing(rootDescriptor, names_, buffer_, self) && !visitor_.walksPartialListings()) {
+            names_.clear();
+            visitor_.unreadable({-1, {}, info, 0});
+            return false;
+        }
         stack_.push_back({rootDescriptor, static_cast<std::uint64_t>(status.st_dev),
-                          static_cast<std::uint64_t>(status.st_ino), 0, 0, itemInfoFrom(status), 0, 0, 0});
+                          static_cast<std::uint64_t>(status.st_ino), 0, 0, info, 0, 0, 0});
         while (!stack_.empty()) {
             // The top folder's listing is the last in the buffer: it runs to the end.
             Frame& top = stack_.back();
@@ -109,8 +136,10 @@ private:
     {
         const Frame& parent = stack_[level];
         struct stat status {};
-        if (fstatat(parent.descriptor, names_.c_str() + start, &status, AT_SYMLINK_NOFOLLOW) != 0)
-            return true;  // vanished since the listing, or unreadable: nothing to count
+        if (fstatat(parent.descriptor, names_.c_str() + start, &status, AT_SYMLINK_NOFOLLOW) != 0) {
+            visitor_.unmeasurable(parent.descriptor, nameAt(start, length), parent.depth + 1);
+            return true;
+        }
         const ItemInfo info = itemInfoFrom(status);
         const auto action = visitor_.visit({parent.descriptor, nameAt(start, length), info, parent.depth + 1});
         if (action == DirectoryWalker::Action::stop)
@@ -126,17 +155,25 @@ private:
         const int depth = stack_[level].depth + 1;
         const int descriptor =
             openat(parentDescriptor, names_.c_str() + start, O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
-        // The folder must still be the one just looked at, not something swapped in since.
-        if (descriptor < 0 || !sameItem(descriptor, info.device, info.inode)) {
-            if (descriptor >= 0)
-                close(descriptor);
+        if (descriptor < 0) {
             visitor_.unreadable({parentDescriptor, nameAt(start, length), info, depth});
             return;
         }
         const std::size_t listingStart = names_.size();
-        appendListing(descriptor, names_, buffer_);
+        std::uint64_t self = 0;
+        const bool whole = appendListing(descriptor, names_, buffer_, self);
+        // The folder must still be the one just looked at, not something swapped in since. Its
+        // "." says so without another call; only where "." is listed with another number (or
+        // not at all) is the folder itself asked.
+        const bool same = self == info.inode || sameItem(descriptor, info.device, info.inode);
+        if (!same || (!whole && !visitor_.walksPartialListings())) {
+            names_.resize(listingStart);
+            close(descriptor);
+            visitor_.unreadable({parentDescriptor, nameAt(start, length), info, depth});
+            return;
+        }
         Frame& parent = stack_[level];
-        if (parent.depth >= openDepthLimit && parent.descriptor != borrowed_) {
+        if (parent.depth >= openDepthLimit_ && parent.descriptor != borrowed_) {
             close(parent.descriptor);
             parent.descriptor = -1;
         }
@@ -170,6 +207,7 @@ private:
     std::string names_;                  // the listings of the open folders, outermost first
     std::vector<std::uint64_t> buffer_;  // the kernel's records of one read, 8-byte aligned
     int borrowed_ = -1;
+    const int openDepthLimit_;
 };
 
 }  // namespace

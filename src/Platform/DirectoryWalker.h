@@ -7,9 +7,10 @@
 
 // Walks a folder tree depth first through directory descriptors: one listing per folder, one
 // metadata call per entry, links never followed, entries in the order the folder lists them.
-// Only a bounded number of descriptors stay open however deep the tree is: past a fixed depth
-// the walker climbs back with "..", checking that it arrives where it came from, so trees
-// thousands of levels deep and paths longer than the system limit are walked without recursion.
+// Only a bounded number of descriptors stay open however deep the tree is: past a depth set by
+// the process's descriptor limit the walker climbs back with "..", checking that it arrives where
+// it came from, so trees thousands of levels deep and paths longer than the system limit are
+// walked without recursion.
 class DirectoryWalker {
 public:
     enum class Action { descend, skip, stop };
@@ -28,8 +29,19 @@ public:
         virtual Action visit(const Entry& entry) = 0;
         // A folder entered with `descend`, after all its contents.
         virtual void leave(const Entry& folder) { (void)folder; }
-        // A folder that could not be opened or listed; its contents are left out.
+        // A folder that could not be opened or listed; its contents are left out. For a visitor
+        // that takes no partial listings, a root whose listing broke off is reported here too,
+        // at depth 0 with no parent (-1) and no name, and is not walked.
         virtual void unreadable(const Entry& folder) { (void)folder; }
+        // An entry whose metadata could not be read: it went away since the listing, or its
+        // folder may be listed but not searched. Left out unless the visitor takes it.
+        virtual void unmeasurable(int parentDescriptor, std::string_view name, int depth)
+        {
+            (void)parentDescriptor, (void)name, (void)depth;
+        }
+        // Whether a folder whose listing broke off part-way is walked with the entries read
+        // before the error, as a directory stream would (the default), or counts as unreadable.
+        virtual bool walksPartialListings() const { return true; }
     };
 
     // Walks below `root`, which is followed if it is a link. False when the root can't be opened

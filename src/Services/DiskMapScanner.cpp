@@ -11,6 +11,7 @@
 #include <filesystem>
 #include <span>
 #include <unistd.h>
+#include <utility>
 #include <vector>
 
 namespace DiskMapScanner {
@@ -41,29 +42,33 @@ FileCategory dominantCategory(std::span<const DiskNode> nodes)
     return static_cast<FileCategory>(largest - totals.begin());
 }
 
-// Folders up to this many entries are sorted by insertion, which needs no buffer; most folders
-// are this small, and a general stable sort would allocate one for each of them.
-constexpr std::size_t insertionSortLimit = 32;
+// What sorting a folder's entries needs besides the entries, kept from one folder to the next so
+// that sorting allocates nothing once the walk has met its largest folder.
+struct SortScratch {
+    std::vector<std::pair<std::int64_t, std::uint32_t>> keys;  // minus the size, listing position
+    std::vector<DiskNode> sorted;
+};
 
-// Largest first; entries of equal size keep their listing order.
-void sortLargestFirst(std::vector<DiskNode>& nodes)
+// Largest first; entries of equal size keep their listing order. The sizes are sorted apart from
+// the nodes, so comparing never reaches into the records, and each node is moved once.
+void sortLargestFirst(std::vector<DiskNode>& nodes, SortScratch& scratch)
 {
-    const auto larger = [](const DiskNode& a, const DiskNode& b) { return a.size() > b.size(); };
-    if (nodes.size() > insertionSortLimit) {
-        std::stable_sort(nodes.begin(), nodes.end(), larger);
+    if (nodes.size() < 2)
         return;
+    auto& keys = scratch.keys;
+    keys.clear();
+    bool inOrder = true;
+    for (std::uint32_t i = 0; i < nodes.size(); ++i) {
+        keys.emplace_back(-nodes[i].size(), i);
+        inOrder = inOrder && (i == 0 || keys[i - 1].first <= keys[i].first);
     }
-    for (std::size_t i = 1; i < nodes.size(); ++i) {
-        if (!larger(nodes[i], nodes[i - 1]))
-            continue;
-        DiskNode moving = std::move(nodes[i]);
-        std::size_t j = i;
-        do {
-            nodes[j] = std::move(nodes[j - 1]);
-            --j;
-        } while (j > 0 && larger(moving, nodes[j - 1]));
-        nodes[j] = std::move(moving);
-    }
+    if (inOrder)
+        return;
+    std::sort(keys.begin(), keys.end());
+    scratch.sorted.clear();
+    for (const auto& key : keys)
+        scratch.sorted.push_back(std::move(nodes[key.second]));
+    nodes.swap(scratch.sorted);
 }
 
 // Splits a folder's entries, largest first, into those it shows and one node for the rest, in
@@ -108,9 +113,10 @@ namespace {
 // A folder whose entries are all gathered (or as many as a cancelled walk reached). The entries
 // are moved into the node; `children` is left empty with its storage, for the next folder.
 DiskNode finishedFolder(const DiskNode::Path& parent, std::string_view name, Modified modified,
-                        const DiskNode::Path& own, std::vector<DiskNode>& children, std::int64_t total)
+                        const DiskNode::Path& own, std::vector<DiskNode>& children, std::int64_t total,
+                        SortScratch& scratch)
 {
-    sortLargestFirst(children);
+    sortLargestFirst(children, scratch);
     const FileCategory category = FileCategories::bundle(name).value_or(dominantCategory(children));
     foldSmallEntries(own, children, total);
     return DiskNode::makeEntry(parent, name, total, true, category, modified, std::move(children));
@@ -124,13 +130,12 @@ DiskNode emptyFolder(const DiskNode::Path& parent, std::string_view name)
 }
 
 struct OpenFolder {
-    DiskNode::Path own;         // this folder's path, without a trailing "/"; its children's prefix
-    std::size_t nameStart = 0;  // where its name begins in `own` (unused for the root)
+    DiskNode::Path own;  // this folder's path, without a trailing "/"; its children's prefix
     Modified modified;
     std::vector<DiskNode> children;
     std::int64_t total = 0;
 
-    std::string_view name() const { return own.view().substr(nameStart); }
+    std::string_view name() const { return own.lastPart(); }  // unused for the root
 };
 
 // Builds the tree bottom-up as the walker goes: a folder becomes a node once its last entry is
@@ -143,7 +148,7 @@ public:
                  const ChildHandler& onChild, HiddenEntries hidden)
         : token_(token), onProgress_(onProgress), onChild_(onChild), skipsHidden_(hidden == HiddenEntries::skipped)
     {
-        open(DiskNode::Path(rootPath == "/" ? std::string_view() : std::string_view(rootPath)), 0, {});
+        open(DiskNode::Path(rootPath == "/" ? std::string_view() : std::string_view(rootPath)), {});
     }
 
     DirectoryWalker::Action visit(const DirectoryWalker::Entry& entry) override
@@ -154,8 +159,7 @@ public:
             return DirectoryWalker::Action::skip;
         const ItemInfo& info = entry.info;
         if (info.isFolder()) {
-            const std::string_view parent = top().own.view();
-            open(DiskNode::Path(parent, entry.name), parent.size() + 1, info.modified);
+            open(DiskNode::Path(top().own, entry.name), info.modified);
             return DirectoryWalker::Action::descend;
         }
         bytesSeen_ += info.allocatedSize;
@@ -166,11 +170,26 @@ public:
 
     void leave(const DirectoryWalker::Entry&) override { closeTop(); }
 
-    void unreadable(const DirectoryWalker::Entry&) override
+    // A folder whose listing broke off shows nothing of it, as one that can't be listed at all.
+    bool walksPartialListings() const override { return false; }
+
+    void unreadable(const DirectoryWalker::Entry& folder) override
     {
-        const OpenFolder& folder = top();
+        if (folder.depth == 0) {
+            rootUnreadable_ = true;
+            return;
+        }
+        const OpenFolder& unlisted = top();
         --depth_;
-        add(emptyFolder(top().own, folder.name()));
+        add(emptyFolder(top().own, unlisted.name()));
+    }
+
+    // Nothing is known of it, not even that it is a folder: it counts as a file of 0 bytes.
+    void unmeasurable(int, std::string_view name, int) override
+    {
+        if ((token_ && token_->isCancelled()) || (skipsHidden_ && isHidden(name)))
+            return;
+        add(DiskNode::makeEntry(top().own, name, 0, false, categoryOf(name), std::nullopt, {}));
     }
 
     // After a complete walk only the root is open; after a cancelled one, the folders it was in
@@ -183,17 +202,18 @@ public:
     }
 
     std::int64_t bytesSeen() const { return bytesSeen_; }
+    SortScratch& sortScratch() { return scratch_; }
+    bool rootUnreadable() const { return rootUnreadable_; }
 
 private:
     OpenFolder& top() { return slots_[depth_ - 1]; }
 
-    void open(const DiskNode::Path& own, std::size_t nameStart, Modified modified)
+    void open(const DiskNode::Path& own, Modified modified)
     {
         if (depth_ == slots_.size())
             slots_.emplace_back();
         OpenFolder& folder = slots_[depth_++];
         folder.own = own;
-        folder.nameStart = nameStart;
         folder.modified = modified;
         folder.total = 0;
     }
@@ -224,7 +244,8 @@ private:
                 onProgress_(bytesSeen_);
             }
         }
-        add(finishedFolder(top().own, folder.name(), folder.modified, folder.own, folder.children, folder.total));
+        add(finishedFolder(top().own, folder.name(), folder.modified, folder.own, folder.children, folder.total,
+                           scratch_));
     }
 
     void add(DiskNode node)
@@ -246,6 +267,8 @@ private:
     std::chrono::steady_clock::time_point lastProgress_{};
     std::optional<std::string> cachedExtension_;
     FileCategory cachedCategory_ = FileCategory::other;
+    bool rootUnreadable_ = false;
+    SortScratch scratch_;
 };
 
 // An absolute path without trailing slashes, as the ids of the tree spell it.
@@ -297,8 +320,10 @@ DiskNode scanStreaming(const std::string& root, const std::shared_ptr<CancelToke
     TreeGatherer gatherer(path, token.get(), onProgress, onChild, hidden);
     DirectoryWalker::walkDescriptor(descriptor, gatherer);
     close(descriptor);
+    if (gatherer.rootUnreadable())
+        return emptyFolder(prefix, name);
     OpenFolder& top = gatherer.finish();
-    return finishedFolder(prefix, name, modified, top.own, top.children, top.total);
+    return finishedFolder(prefix, name, modified, top.own, top.children, top.total, gatherer.sortScratch());
 }
 
 }  // namespace DiskMapScanner

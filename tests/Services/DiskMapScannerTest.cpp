@@ -3,12 +3,14 @@
 
 #include "Platform/FileSystem.h"
 #include "Support/DroppedCapabilities.h"
+#include "Support/FailingFolderReads.h"
 #include "Support/TempHome.h"
 #include "Support/TreeBuilder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <array>
 #include <filesystem>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -101,19 +103,31 @@ TEST_F(DiskMapScannerTest, FolderOfSixtyOneEqualFilesKeepsTheFirstSixtyListed)
     expectConsistent(root);
 }
 
-TEST_F(DiskMapScannerTest, SmallFolderRunsLargestFirstWithTiesInListingOrder)
+// Ties keep their listing order, in a folder of a few entries and in one large enough to fold,
+// whose "(smaller items)" goes on in the same order.
+TEST_F(DiskMapScannerTest, FoldersRunLargestFirstWithTiesInListingOrder)
 {
-    for (int i = 0; i < 6; ++i)
-        tempHome.writeFile("few/equal" + std::to_string(i) + ".txt", std::string(100, 'x'));
-    tempHome.writeFile("few/big.bin", std::string(100000, 'x'));
-    tempHome.writeFile("few/middle.bin", std::string(20000, 'x'));
-    std::vector<std::string> expected = {path("few/big.bin"), path("few/middle.bin")};
-    for (const std::string& id : listed(path("few"))) {
-        if (id.ends_with(".txt"))
-            expected.push_back(id);
-    }
+    for (const auto& [folder, files] : {std::pair<std::string, int>{"few", 8}, {"many", 150}}) {
+        // Three sizes in turn: ties everywhere, and the listing order is not the size order.
+        constexpr std::array sizes{100, 20000, 5000};
+        for (int i = 0; i < files; ++i)
+            tempHome.writeFile(folder + "/f" + std::to_string(i) + ".bin", std::string(sizes[i % 3], 'x'));
+        std::vector<std::string> expected = listed(path(folder));
+        std::stable_sort(expected.begin(), expected.end(), [](const std::string& a, const std::string& b) {
+            return TreeBuilder::allocatedSize(a) > TreeBuilder::allocatedSize(b);
+        });
 
-    EXPECT_EQ(idsOf(scan(path("few")).children()), expected);
+        const DiskNode root = scan(path(folder));
+
+        std::vector<std::string> shown = idsOf(root.children());
+        if (root.children().back().isSynthetic()) {
+            shown.pop_back();
+            const auto folded = idsOf(root.children().back().children());
+            shown.insert(shown.end(), folded.begin(), folded.end());
+        }
+        EXPECT_EQ(shown, expected) << folder;
+        EXPECT_EQ(root.children().back().isSynthetic(), files > 60) << folder;
+    }
 }
 
 TEST_F(DiskMapScannerTest, PruneFoldsByShareAndCount)
@@ -324,6 +338,59 @@ TEST_F(DiskMapScannerTest, RootsThatAreNotReadableFoldersFallBack)
     EXPECT_FALSE(unreadableRoot.modified());
     EXPECT_EQ(parentOfUnreadable.size(), TreeBuilder::allocatedSize(path("full/Library.photoslibrary/a.txt")))
         << "an unreadable folder adds nothing";
+}
+
+// What can't be read still shows as what is known of it: an entry whose metadata can't be read
+// is a file of 0 bytes, and a folder whose listing breaks off shows nothing it held.
+TEST_F(DiskMapScannerTest, UnreadableEntriesAndBrokenListingsShowWhatIsKnown)
+{
+    std::vector<DiskNode> streamed;
+    const auto keep = [&](const DiskNode& node) { streamed.push_back(node); };
+
+    tempHome.writeFile("Broken/notes.txt", std::string(3000, 'x'));
+    tempHome.writeFile("Broken/Films/film.mov", std::string(90000, 'x'));
+    tempHome.writeFile("Broken/Films/clip.mp4", std::string(9000, 'x'));
+    DiskNode root;
+    {
+        FailingFolderReads failing(path("Broken/Films"));
+        root = scan(path("Broken"), std::make_shared<CancelToken>(), {}, keep);
+    }
+    ASSERT_EQ(streamed.size(), 2u);
+    const DiskNode& films = streamed[0].name() == "Films" ? streamed[0] : streamed[1];
+    EXPECT_TRUE(films.isDirectory());
+    EXPECT_EQ(films.size(), 0);
+    EXPECT_TRUE(films.children().empty());
+    EXPECT_FALSE(films.modified());
+    EXPECT_EQ(root.size(), TreeBuilder::allocatedSize(path("Broken/notes.txt")));
+    {
+        FailingFolderReads failing(path("Broken"));
+        root = scan(path("Broken"));
+    }
+    EXPECT_TRUE(root.isDirectory());
+    EXPECT_EQ(root.size(), 0);
+    EXPECT_TRUE(root.children().empty());
+    EXPECT_FALSE(root.modified());
+
+    // A folder that may be listed but not searched: its names are all there is.
+    const std::string unsearchable = tempHome.makeFolder("Shared");
+    tempHome.writeFile("Shared/report.pdf", std::string(5000, 'x'));
+    tempHome.makeFolder("Shared/Photos");
+    ASSERT_EQ(chmod(unsearchable.c_str(), 0444), 0);
+    streamed.clear();
+    {
+        DroppedCapabilities dropped;
+        MOPWELL_REQUIRE_ENFORCED_PERMISSIONS(dropped);
+        root = scan(unsearchable, std::make_shared<CancelToken>(), {}, keep);
+    }
+    chmod(unsearchable.c_str(), 0755);
+    ASSERT_EQ(streamed.size(), 2u);
+    for (const DiskNode& node : streamed) {
+        EXPECT_FALSE(node.isDirectory()) << node.id();
+        EXPECT_EQ(node.size(), 0) << node.id();
+        EXPECT_FALSE(node.modified()) << node.id();
+        EXPECT_EQ(node.category(), FileCategories::forFile(node.name())) << node.id();
+    }
+    EXPECT_EQ(root.size(), 0);
 }
 
 TEST_F(DiskMapScannerTest, WalksTwoThousandLevelsWithoutRecursing)
