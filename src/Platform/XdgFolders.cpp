@@ -3,6 +3,7 @@
 #include "Platform/Paths.h"
 
 #include <cstdlib>
+#include <fstream>
 
 namespace XdgFolders {
 namespace {
@@ -12,6 +13,28 @@ std::string folder(const char* variable, const char* fallbackBelowHome)
     if (const char* value = std::getenv(variable); value && value[0] == '/')
         return value;
     return Paths::home() + "/" + fallbackBelowHome;
+}
+
+// The value of one line, `XDG_KIND_DIR="$HOME/Name"` or `XDG_KIND_DIR="/absolute/path"`, the only
+// two forms the file takes; a backslash keeps the character after it.
+std::optional<std::string> userDirValue(std::string_view quoted)
+{
+    if (quoted.size() < 2 || quoted.front() != '"')
+        return std::nullopt;
+    std::string value;
+    for (std::size_t at = 1; at < quoted.size(); ++at) {
+        const char next = quoted[at];
+        if (next == '"')
+            break;
+        if (next == '\\' && at + 1 < quoted.size())
+            ++at;
+        value += quoted[at];
+    }
+    if (value == "$HOME" || value.starts_with("$HOME/"))
+        return Paths::home() + value.substr(5);
+    if (value.starts_with("/"))
+        return value;
+    return std::nullopt;
 }
 
 }  // namespace
@@ -37,6 +60,19 @@ std::vector<std::string> dataDirs()
     if (dirs.empty())
         dirs = {"/usr/local/share", "/usr/share"};
     return dirs;
+}
+
+std::optional<std::string> userDir(std::string_view kind)
+{
+    std::ifstream file(configHome() + "/user-dirs.dirs");
+    const std::string key = "XDG_" + std::string(kind) + "_DIR=";
+    std::string line;
+    while (std::getline(file, line)) {
+        const std::size_t start = line.find_first_not_of(" \t");
+        if (start != std::string::npos && line.compare(start, key.size(), key) == 0)
+            return userDirValue(std::string_view(line).substr(start + key.size()));
+    }
+    return std::nullopt;
 }
 
 }  // namespace XdgFolders

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 // The per-user base folders of the freedesktop.org base directory rules, read from the
@@ -15,5 +17,10 @@ std::string stateHome();   // $XDG_STATE_HOME, else ~/.local/state
 
 // $XDG_DATA_DIRS in order of preference, else /usr/local/share and /usr/share.
 std::vector<std::string> dataDirs();
+
+// The user's folder of a kind ("DOCUMENTS", "DOWNLOAD", "DESKTOP", ...) where the desktop's
+// folder settings put it ($XDG_CONFIG_HOME/user-dirs.dirs): a German desktop keeps its documents
+// in ~/Dokumente. None when the file, or a well-formed line for the kind, is missing.
+std::optional<std::string> userDir(std::string_view kind);
 
 }  // namespace XdgFolders
