@@ -77,13 +77,15 @@ Window {
             bottomPadding: 4
             Repeater {
                 model: panelModel.groups
-                Column {
+                // Each row is exactly a row's height: the divider lies inside it, at the bottom.
+                Item {
                     id: groupEntry
                     required property var model
                     required property int index
                     width: panel.width
+                    height: Theme.rowHeight
                     SimpleGroupRow {
-                        width: parent.width
+                        anchors.fill: parent
                         model: panel.model
                         groupId: groupEntry.model.groupId
                         title: groupEntry.model.title
@@ -92,7 +94,12 @@ Window {
                         isScanning: groupEntry.model.isScanning
                         included: groupEntry.model.included
                     }
-                    Divider { width: parent.width - inset; inset: 48; visible: groupEntry.index < panelModel.groups.count - 1 }
+                    Divider {
+                        anchors.bottom: parent.bottom
+                        width: parent.width - inset
+                        inset: 48
+                        visible: groupEntry.index < panelModel.groups.count - 1
+                    }
                 }
             }
         }
@@ -110,13 +117,16 @@ Window {
             section.property: "section"
             section.labelPositioning: ViewSection.InlineLabels | ViewSection.CurrentLabelAtStart
             section.delegate: SectionHeader {}
-            delegate: Column {
+            // Each row is exactly a row's height, as the list's height counts it: the divider lies
+            // inside the row, at the bottom.
+            delegate: Item {
                 id: targetEntry
                 required property int index
                 required property var model
                 width: targetList.width
+                height: Theme.rowHeight
                 TargetRowView {
-                    width: parent.width
+                    anchors.fill: parent
                     model: panel.model
                     targetId: targetEntry.model.targetId
                     name: targetEntry.model.name
@@ -135,6 +145,7 @@ Window {
                     }
                 }
                 Divider {
+                    anchors.bottom: parent.bottom
                     width: parent.width - inset
                     inset: 48
                     visible: targetEntry.ListView.nextSection === targetEntry.ListView.section

@@ -99,6 +99,12 @@ TestCase {
         const list = findChild(panel, "targets")
         compare(list.height, 360)                               // far more than fits: it scrolls
         verify(list.contentHeight > 360)
+        // Every row is as high as the list's height counts it, divider and all, so a list below
+        // the cap fits its rows exactly.
+        for (let i = 0; i < list.count; ++i) {
+            list.positionViewAtIndex(i, ListView.Contain)
+            compare(list.itemAtIndex(i).height, 44, "row " + i)
+        }
     }
 
     // What a Linux user sees first: every group measured from the home's own folders, and the
