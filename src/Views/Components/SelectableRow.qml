@@ -6,11 +6,14 @@ import Mopwell
 // A list row the user ticks to include in a removal: a box, an optional symbol, a title with an
 // optional subtitle, the size when known, and whatever the caller puts at the end as children.
 // The box shows `isOn` and reports clicks through `toggle()`; the owner flips the state, so the
-// row never disagrees with the model behind it. `enabled: false` greys out the whole row.
+// row never disagrees with the model behind it. `boxEnabled: false` switches off the box alone:
+// the row's own `enabled` would switch off what stands at its end too, and a file that can't be
+// ticked must still be found.
 Item {
     id: root
 
     property bool isOn
+    property bool boxEnabled: true
     property string icon
     property string title
     property string subtitle
@@ -34,6 +37,7 @@ Item {
         CheckBox {
             objectName: "selectableRowBox"
             padding: 0
+            enabled: root.boxEnabled
             checked: root.isOn
             // The state only changes through the owner: a click asks, `isOn` answers.
             nextCheckState: function () { return checkState }

@@ -52,25 +52,20 @@ Item {
         }
     }
 
-    RowLayout {
+    SelectableRow {
         id: file
+        objectName: "fileRow"
         visible: !row.isHeader
         anchors.left: parent.left
         anchors.right: parent.right
-        anchors.rightMargin: 10
-        spacing: 0
+        isOn: row.isOn
+        boxEnabled: row.canTrash
+        title: row.title
+        subtitle: row.subtitle
+        size: row.size
+        onToggle: row.finder.toggleFile(row.fileIndex)
 
-        SelectableRow {
-            objectName: "fileRow"
-            Layout.fillWidth: true
-            isOn: row.isOn
-            enabled: row.canTrash
-            title: row.title
-            subtitle: row.subtitle
-            size: row.size
-            onToggle: row.finder.toggleFile(row.fileIndex)
-        }
-        // Outside the row, so a file that can't be trashed can still be found.
+        // A file that can't be trashed can still be found.
         ToolButton {
             objectName: "revealButton"
             flat: true

@@ -41,10 +41,13 @@ Item {
         Component {
             id: rowComponent
             SelectableRow {
+                id: selectable
                 width: 400
                 title: "DerivedData"
                 property int toggles: 0
+                property int reveals: 0
                 onToggle: toggles += 1
+                ToolButton { objectName: "reveal"; text: "Reveal"; onClicked: selectable.reveals += 1 }
             }
         }
         Component {
@@ -113,9 +116,12 @@ Item {
             compare(row.toggles, 2)
             verify(box.checked)
 
-            row.enabled = false
+            // A row that can't be ticked still offers what stands at its end.
+            row.boxEnabled = false
             mouseClick(box)
             compare(row.toggles, 2)
+            mouseClick(findChild(row, "reveal"))
+            compare(row.reveals, 1)
         }
 
         function test_selectableRowShowsOnlyWhatItIsGiven() {

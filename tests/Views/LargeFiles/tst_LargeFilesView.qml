@@ -153,6 +153,17 @@ TestCase {
                 "Duplicates are byte-identical copies — unique files don't appear here.")
     }
 
+    // Files outside the home can't be ticked for the Trash, but each can still be found.
+    function test_aFileThatCantBeTrashedCanStillBeRevealed() {
+        const window = open(support.freshModel())
+        window.finder.scan("/usr/share/common-licenses")
+        tryCompare(window.finder, "hasScanned", true)
+        waitForRendering(window.contentItem)
+        const row = child(rowsOf(window, "largestList").itemAtIndex(0), "fileRow")
+        verify(!child(row, "selectableRowBox").enabled)
+        verify(child(row, "revealButton").enabled)
+    }
+
     function test_thePanelsToolsOpenTheWindowOnTheirList() {
         const model = support.freshModel()
         const panel = createTemporaryObject(panelComponent, null, { model: model })
