@@ -83,12 +83,10 @@ Item {
                     elideWidth: label.width
                 }
             }
-            Label {
+            SizeText {
                 objectName: "confirmItemSize"
                 visible: itemRow.modelData.size >= 0
                 text: itemRow.modelData.size >= 0 ? Formatter.bytes(itemRow.modelData.size) : ""
-                font: Theme.callout
-                color: Theme.primary
             }
         }
         Rectangle {

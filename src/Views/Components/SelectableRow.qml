@@ -77,12 +77,10 @@ Item {
                 maximumLineCount: 1
             }
         }
-        Label {
+        SizeText {
             objectName: "selectableRowSize"
             visible: root.size >= 0
             text: root.size >= 0 ? Formatter.bytes(root.size) : ""
-            font: Theme.callout
-            color: Theme.primary
         }
         Row {
             id: trailingRow

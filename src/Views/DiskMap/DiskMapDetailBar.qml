@@ -75,11 +75,10 @@ Item {
                 color: Theme.secondary
             }
         }
-        Label {
+        SizeText {
             objectName: "detailSize"
-            text: bar.node.sizeText ?? ""
-            font: Qt.font({ family: Theme.monospaceFamily, pixelSize: Theme.title2.pixelSize, weight: Font.DemiBold })
-            color: Theme.primary
+            text: bar.node.sizeText !== undefined ? bar.node.sizeText : ""
+            font: Qt.font({ pixelSize: Theme.title2.pixelSize, weight: Font.DemiBold })
         }
         Button {
             objectName: "revealButton"

@@ -58,10 +58,10 @@ Item {
                 font: Theme.callout
                 color: Theme.primary
             }
-            Label {
+            SizeText {
                 objectName: "rowSize"
                 text: row.sizeText
-                font: Theme.caption1  // the face's digits are all one width
+                font: Theme.caption1
                 color: Theme.secondary
             }
         }

@@ -35,11 +35,11 @@ ColumnLayout {
         Layout.leftMargin: 16
         Layout.rightMargin: 16
         spacing: 6
-        Text {
+        SizeText {
             objectName: "reclaimable"
+            holdsWidest: false
             text: footer.panelModel.reclaimableText
             font: Qt.font({ pixelSize: Theme.title2.pixelSize, weight: Font.DemiBold })
-            color: Theme.primary
         }
         Text { text: qsTr("reclaimable"); font: Theme.callout; color: Theme.secondary; Layout.alignment: Qt.AlignBaseline }
     }

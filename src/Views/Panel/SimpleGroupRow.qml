@@ -51,12 +51,11 @@ Item {
             Layout.preferredWidth: 16
             Layout.preferredHeight: 16
         }
-        Text {
+        SizeText {
             objectName: "size"
             visible: !row.isScanning
             text: row.sizeText
             font: Qt.font({ pixelSize: Theme.callout.pixelSize, weight: Font.Medium })
-            color: Theme.primary
         }
     }
 }

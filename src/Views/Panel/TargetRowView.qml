@@ -47,6 +47,8 @@ Item {
             spacing: 1
             Layout.fillWidth: true
             Layout.minimumWidth: 60
+            // Only what is left over: a long detail line is cut, and never pushes the columns after it.
+            Layout.preferredWidth: 60
             opacity: row.included ? 1.0 : 0.5
             Text {
                 objectName: "name"
@@ -82,27 +84,34 @@ Item {
                 paths: row.displayPaths
             }
         }
-        RowLayout {
-            // At least 62 wide and right-aligned, so sizes line up down the list.
-            Layout.preferredWidth: Math.max(62, implicitWidth)
-            layoutDirection: Qt.RightToLeft
-            spacing: 4
-            Text {
+        // At least 62 wide, and as wide as the widest size with the spinner beside it, so the
+        // sizes line up down the list and nothing moves when a row starts or stops scanning.
+        Item {
+            readonly property real columnWidth: Math.max(62, sizeLabel.implicitWidth + spinner.width + 4)
+            Layout.preferredWidth: columnWidth
+            Layout.minimumWidth: columnWidth
+            Layout.preferredHeight: sizeLabel.implicitHeight
+            SizeText {
+                id: sizeLabel
                 objectName: "size"
+                anchors.right: parent.right
+                anchors.verticalCenter: parent.verticalCenter
                 visible: !row.isScanning || row.sizeBytes >= 1
                 text: row.sizeText
                 font: Qt.font({ pixelSize: Theme.callout.pixelSize, weight: Font.Medium })
                 color: !row.isScanning && row.sizeBytes >= 1 ? Theme.primary : Theme.secondary
-                horizontalAlignment: Text.AlignRight
                 HoverHandler { id: sizeHover }
                 ToolTip.visible: sizeHover.hovered && (row.isScanning || row.sizeBytes < 0)
                 ToolTip.text: row.isScanning ? qsTr("Scanning…") : qsTr("Rescan to measure this size")
             }
             BusyIndicator {
+                id: spinner
+                anchors.left: parent.left
+                anchors.verticalCenter: parent.verticalCenter
                 visible: row.isScanning
                 running: visible
-                Layout.preferredWidth: 14
-                Layout.preferredHeight: 14
+                width: 14
+                height: 14
             }
         }
         ToolButton {

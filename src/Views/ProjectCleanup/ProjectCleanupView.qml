@@ -41,143 +41,148 @@ Window {
         }
     }
 
-    // First in the content: the window takes its size from this item.
-    ColumnLayout {
+    // First in the content: the window takes its size from this item. (A layout would put its
+    // own figure in place of an implicit size given to it.)
+    Item {
         anchors.fill: parent
         implicitWidth: 640
         implicitHeight: 520
-        spacing: 0
 
-        ProjectCleanupToolbar {
-            objectName: "toolbar"
-            Layout.fillWidth: true
-            cleanup: cleanup
-        }
-        Divider { Layout.fillWidth: true }
-        ProjectKindChips {
-            id: chips
-            objectName: "kindChips"
-            Layout.fillWidth: true
-            visible: cleanup.kindFacets.length >= 2
-            cleanup: cleanup
-        }
-        Divider { Layout.fillWidth: true; visible: chips.visible }
+        ColumnLayout {
+            anchors.fill: parent
+            spacing: 0
 
-        Item {
-            Layout.fillWidth: true
-            Layout.fillHeight: true
+            ProjectCleanupToolbar {
+                objectName: "toolbar"
+                Layout.fillWidth: true
+                cleanup: cleanup
+            }
+            Divider { Layout.fillWidth: true }
+            ProjectKindChips {
+                id: chips
+                objectName: "kindChips"
+                Layout.fillWidth: true
+                visible: cleanup.kindFacets.length >= 2
+                cleanup: cleanup
+            }
+            Divider { Layout.fillWidth: true; visible: chips.visible }
 
-            ListView {
-                id: list
-                objectName: "folderList"
-                anchors.fill: parent
-                visible: cleanup.hasDirs
-                clip: true
-                model: cleanup.rows
-                boundsBehavior: Flickable.StopAtBounds
-                ScrollBar.vertical: ScrollBar {}
-                // Rows keep their places while the pointer is over them, so a size that comes in
-                // never moves the row about to be ticked.
-                HoverHandler { id: listHover }
-                Binding { target: cleanup.rows; property: "holdOrder"; value: listHover.hovered }
+            Item {
+                Layout.fillWidth: true
+                Layout.fillHeight: true
 
-                move: Transition {
-                    enabled: !Accessibility.reduceMotion
-                    NumberAnimation { property: "y"; duration: 160; easing.type: Easing.OutCubic }
-                }
-                displaced: Transition {
-                    enabled: !Accessibility.reduceMotion
-                    NumberAnimation { property: "y"; duration: 160; easing.type: Easing.OutCubic }
-                }
+                ListView {
+                    id: list
+                    objectName: "folderList"
+                    anchors.fill: parent
+                    visible: cleanup.hasDirs
+                    clip: true
+                    model: cleanup.rows
+                    boundsBehavior: Flickable.StopAtBounds
+                    ScrollBar.vertical: ScrollBar {}
+                    // Rows keep their places while the pointer is over them, so a size that comes in
+                    // never moves the row about to be ticked.
+                    HoverHandler { id: listHover }
+                    Binding { target: cleanup.rows; property: "holdOrder"; value: listHover.hovered }
 
-                delegate: Loader {
-                    id: entry
-                    required property int index
-                    required property bool isHeader
-                    required property string name
-                    required property string kind
-                    required property string displayPath
-                    required property string sizeText
-                    required property bool measured
-                    required property string ageText
-                    required property bool selected
-                    required property bool selectable
-                    required property int count
+                    move: Transition {
+                        enabled: !Accessibility.reduceMotion
+                        NumberAnimation { property: "y"; duration: 160; easing.type: Easing.OutCubic }
+                    }
+                    displaced: Transition {
+                        enabled: !Accessibility.reduceMotion
+                        NumberAnimation { property: "y"; duration: 160; easing.type: Easing.OutCubic }
+                    }
 
-                    width: ListView.view.width
-                    sourceComponent: isHeader ? groupHeader : folderRow
+                    delegate: Loader {
+                        id: entry
+                        required property int index
+                        required property bool isHeader
+                        required property string name
+                        required property string kind
+                        required property string displayPath
+                        required property string sizeText
+                        required property bool measured
+                        required property string ageText
+                        required property bool selected
+                        required property bool selectable
+                        required property int count
 
-                    Component {
-                        id: groupHeader
-                        ProjectGroupHeader {
-                            objectName: "groupHeader"
-                            name: entry.name
-                            displayPath: entry.displayPath
-                            sizeText: entry.sizeText
-                            count: entry.count
-                            selected: entry.selected
-                            selectable: entry.selectable
-                            onToggleRequested: cleanup.toggleRow(entry.index)
-                            onRevealRequested: cleanup.revealRow(entry.index)
+                        width: ListView.view.width
+                        sourceComponent: isHeader ? groupHeader : folderRow
+
+                        Component {
+                            id: groupHeader
+                            ProjectGroupHeader {
+                                objectName: "groupHeader"
+                                name: entry.name
+                                displayPath: entry.displayPath
+                                sizeText: entry.sizeText
+                                count: entry.count
+                                selected: entry.selected
+                                selectable: entry.selectable
+                                onToggleRequested: cleanup.toggleRow(entry.index)
+                                onRevealRequested: cleanup.revealRow(entry.index)
+                            }
+                        }
+                        Component {
+                            id: folderRow
+                            ProjectDirRow {
+                                id: folderItem
+                                objectName: "folderRow"
+                                name: entry.name
+                                kind: entry.kind
+                                displayPath: entry.displayPath
+                                sizeText: entry.sizeText
+                                ageText: entry.ageText
+                                measured: entry.measured
+                                selected: entry.selected
+                                selectable: entry.selectable
+                                indent: cleanup.groupByProject ? 22 : 0
+                                onToggleRequested: cleanup.toggleRow(entry.index)
+                                onRevealRequested: cleanup.revealRow(entry.index)
+                                onPinRequested: cleanup.pinRow(entry.index)
+                                onMenuRequested: (x, y) => window.showMenu(entry.index, folderItem, x, y)
+                            }
                         }
                     }
-                    Component {
-                        id: folderRow
-                        ProjectDirRow {
-                            id: folderItem
-                            objectName: "folderRow"
-                            name: entry.name
-                            kind: entry.kind
-                            displayPath: entry.displayPath
-                            sizeText: entry.sizeText
-                            ageText: entry.ageText
-                            measured: entry.measured
-                            selected: entry.selected
-                            selectable: entry.selectable
-                            indent: cleanup.groupByProject ? 22 : 0
-                            onToggleRequested: cleanup.toggleRow(entry.index)
-                            onRevealRequested: cleanup.revealRow(entry.index)
-                            onPinRequested: cleanup.pinRow(entry.index)
-                            onMenuRequested: (x, y) => window.showMenu(entry.index, folderItem, x, y)
-                        }
+                }
+
+                ColumnLayout {
+                    objectName: "scanningState"
+                    anchors.centerIn: parent
+                    visible: !cleanup.hasDirs && cleanup.isScanning
+                    spacing: 10
+                    BusyIndicator {
+                        Layout.alignment: Qt.AlignHCenter
+                        running: parent.visible
+                    }
+                    Label {
+                        objectName: "scanningText"
+                        Layout.alignment: Qt.AlignHCenter
+                        text: qsTr("Scanning %1… %2 found").arg(cleanup.rootsLabel).arg(cleanup.foundCount)
+                        font: Theme.callout
+                        color: Theme.secondary
                     }
                 }
-            }
 
-            ColumnLayout {
-                objectName: "scanningState"
-                anchors.centerIn: parent
-                visible: !cleanup.hasDirs && cleanup.isScanning
-                spacing: 10
-                BusyIndicator {
-                    Layout.alignment: Qt.AlignHCenter
-                    running: parent.visible
-                }
-                Label {
-                    objectName: "scanningText"
-                    Layout.alignment: Qt.AlignHCenter
-                    text: qsTr("Scanning %1… %2 found").arg(cleanup.rootsLabel).arg(cleanup.foundCount)
-                    font: Theme.callout
-                    color: Theme.secondary
+                EmptyState {
+                    objectName: "emptyState"
+                    anchors.fill: parent
+                    visible: !cleanup.hasDirs && !cleanup.isScanning && cleanup.hasScanned
+                    icon: "checkmark.circle"
+                    title: qsTr("No build folders found")
+                    message: qsTr("Nothing to clean under %1").arg(cleanup.rootsLabel)
                 }
             }
 
-            EmptyState {
-                objectName: "emptyState"
-                anchors.fill: parent
-                visible: !cleanup.hasDirs && !cleanup.isScanning && cleanup.hasScanned
-                icon: "checkmark.circle"
-                title: qsTr("No build folders found")
-                message: qsTr("Nothing to clean under %1").arg(cleanup.rootsLabel)
+            Divider { Layout.fillWidth: true }
+            ProjectCleanupFooter {
+                objectName: "footer"
+                Layout.fillWidth: true
+                cleanup: cleanup
+                onTrashRequested: confirmation.open()
             }
-        }
-
-        Divider { Layout.fillWidth: true }
-        ProjectCleanupFooter {
-            objectName: "footer"
-            Layout.fillWidth: true
-            cleanup: cleanup
-            onTrashRequested: confirmation.open()
         }
     }
 

@@ -83,16 +83,15 @@ Item {
             Layout.minimumWidth: 64
             Item {
                 Layout.alignment: Qt.AlignRight
-                implicitWidth: row.measured ? sizeLabel.implicitWidth : 14
+                implicitWidth: sizeLabel.implicitWidth
                 implicitHeight: sizeLabel.implicitHeight
-                Text {
+                SizeText {
                     id: sizeLabel
                     objectName: "rowSize"
                     anchors.right: parent.right
                     visible: row.measured
                     text: row.sizeText
-                    font: Qt.font({ pixelSize: Theme.callout.pixelSize, weight: Font.Medium, family: Theme.monospaceFamily })
-                    color: Theme.primary
+                    font: Qt.font({ pixelSize: Theme.callout.pixelSize, weight: Font.Medium })
                 }
                 BusyIndicator {
                     objectName: "rowMeasuring"

@@ -57,11 +57,10 @@ Rectangle {
             color: Theme.secondary
         }
         ProjectBadge { objectName: "groupCount"; text: header.count }
-        Text {
+        SizeText {
             objectName: "groupSize"
             text: header.sizeText
-            font: Qt.font({ pixelSize: Theme.callout.pixelSize, weight: Font.DemiBold, family: Theme.monospaceFamily })
-            color: Theme.primary
+            font: Qt.font({ pixelSize: Theme.callout.pixelSize, weight: Font.DemiBold })
         }
         ProjectIconButton {
             objectName: "groupReveal"

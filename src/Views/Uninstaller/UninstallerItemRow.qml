@@ -68,11 +68,9 @@ Item {
                 maximumLineCount: 1
             }
         }
-        Label {
+        SizeText {
             objectName: "itemSize"
             text: Formatter.bytes(row.item.size)
-            font: Theme.callout
-            color: Theme.primary
         }
     }
     Divider {

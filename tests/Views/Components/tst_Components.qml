@@ -60,6 +60,12 @@ Item {
             }
         }
         Component {
+            id: sizeComponent
+            SizeText { font.family: "Cantarell"; font.pixelSize: 12 }
+        }
+        // The face of GNOME's desktop, whose figures are proportional: a "1" narrower than a "0".
+        FontMetrics { id: proportional; font.family: "Cantarell"; font.pixelSize: 12 }
+        Component {
             id: centredWindow
             Window {
                 x: 0
@@ -132,6 +138,33 @@ Item {
             row.size = 1500000
             verify(findChild(row, "selectableRowSubtitle").visible)
             compare(findChild(row, "selectableRowSize").text, "1.5 MB")
+        }
+
+        function test_selectableRowsKeepTheirColumnsWhateverTheSize() {
+            const small = create(rowComponent, { subtitle: "~/Library/Developer/Xcode/DerivedData", size: 0 })
+            const large = create(rowComponent, { size: 1500000000 })
+            verify(findChild(small, "selectableRowSubtitle").visible)
+            compare(findChild(small, "selectableRowSize").text, "Zero KB")
+            compare(findChild(large, "selectableRowSize").text, "1.5 GB")
+            compare(findChild(small, "reveal").mapToItem(small, 0, 0).x, findChild(large, "reveal").mapToItem(large, 0, 0).x)
+            compare(findChild(small, "selectableRowTitle").width, findChild(large, "selectableRowTitle").width)
+        }
+
+        function test_sizesLineUpDigitUnderDigit() {
+            verify(proportional.advanceWidth("1") < proportional.advanceWidth("0"),
+                   "the test needs the Cantarell face (fonts-cantarell)")
+            const ones = create(sizeComponent, { text: "1.1 GB", holdsWidest: false })
+            const eights = create(sizeComponent, { text: "8.8 GB", holdsWidest: false })
+            compare(ones.implicitWidth, eights.implicitWidth)
+            // In a column, every size takes the room of the widest one the formatter writes.
+            const column = [create(sizeComponent, { text: "Zero KB" }), create(sizeComponent, { text: "1 byte" }),
+                            create(sizeComponent, { text: "111.11 GB" }), ones, eights]
+            ones.holdsWidest = true
+            eights.holdsWidest = true
+            for (const size of column)
+                compare(size.implicitWidth, column[0].implicitWidth, size.text)
+            verify(column[0].implicitWidth >= proportional.advanceWidth("Zero KB"))
+            compare(ones.Accessible.name, "1.1 GB")
         }
 
         function test_cleanActionButtonIgnoresPressesWhileDisabled() {

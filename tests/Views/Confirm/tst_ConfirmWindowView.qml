@@ -119,13 +119,19 @@ TestCase {
 
     function test_aLongLabelIsCutInTheMiddleAndShownWholeForSelecting() {
         const path = "/home/someone/Library/Developer/Xcode/DerivedData/AVeryLongProjectName-abcdefghijklmnop/Build/Intermediates.noindex"
-        const window = showSheet({ items: [{ label: path, size: 1234567890 }] })
-        const row = findChild(window.sheet, "confirmList").itemAtIndex(0)
+        const window = showSheet({ items: [{ label: path, size: 1234567890 }, { label: path, size: 0 }] })
+        const list = findChild(window.sheet, "confirmList")
+        const row = list.itemAtIndex(0)
         const label = findChild(row, "confirmItemLabel")
         verify(label.text.indexOf("…") > 0, label.text)
         verify(path.startsWith(label.text.split("…")[0]))
         verify(path.endsWith(label.text.split("…")[1]))
         compare(findChild(row, "confirmItemSize").text, "1.23 GB")
+        // Sizes keep one column: a shorter size leaves the label no more room.
+        const other = list.itemAtIndex(1)
+        compare(findChild(other, "confirmItemSize").text, "Zero KB")
+        compare(findChild(other, "confirmItemLabel").width, label.width)
+        compare(findChild(other, "confirmItemLabel").text, label.text)
         mouseClick(label)
         compare(label.text, path)
         label.selectAll()

@@ -213,6 +213,12 @@ TestCase {
         fuzzyCompare(fresh.b, 0.312, 0.01)
         const old = findChild(list.itemAtIndex(indexNamed(window, "theme.mp3")), "rowSwatch").color
         verify(old.r > 0.8 && old.g < 0.5)
+        // Two digits or three, the sizes keep one column and leave the names the same room.
+        for (let i = 1; i < list.count; ++i) {
+            const row = list.itemAtIndex(i)
+            compare(findChild(row, "rowName").width, findChild(list.itemAtIndex(0), "rowName").width,
+                    findChild(row, "rowSize").text)
+        }
         waitForRendering(window.contentItem)
         verify(support.saveScreenshot(window.contentItem, "diskmap-age"))
     }

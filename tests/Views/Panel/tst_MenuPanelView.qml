@@ -100,10 +100,18 @@ TestCase {
         compare(list.height, 360)                               // far more than fits: it scrolls
         verify(list.contentHeight > 360)
         // Every row is as high as the list's height counts it, divider and all, so a list below
-        // the cap fits its rows exactly.
+        // the cap fits its rows exactly; and whatever its size or detail line, each row keeps
+        // its info button and its size in one column with the others.
+        let columns = null
         for (let i = 0; i < list.count; ++i) {
             list.positionViewAtIndex(i, ListView.Contain)
-            compare(list.itemAtIndex(i).height, 44, "row " + i)
+            const row = list.itemAtIndex(i)
+            compare(row.height, 44, "row " + i)
+            const size = findChild(row, "size")
+            const place = [findChild(row, "info").mapToItem(row, 0, 0).x, size.mapToItem(row, size.width, 0).x]
+            if (columns === null)
+                columns = place
+            compare(place, columns, "row " + i + ", " + size.text)
         }
     }
 

@@ -79,6 +79,9 @@ TestCase {
         const window = open()
         compare(window.minimumWidth, 640)
         compare(window.minimumHeight, 520)
+        // The shell fixes the window to its first item's size.
+        compare(window.contentItem.children[0].implicitWidth, 640)
+        compare(window.contentItem.children[0].implicitHeight, 520)
         compare(window.cleanup.model, window.model)
         compare(names(window), ["web", "engine", "api"])
         const web = rowAt(window, 0)
