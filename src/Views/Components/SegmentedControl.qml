@@ -4,7 +4,8 @@ import Mopwell
 
 // A choice of one among a few, side by side in one rounded frame:
 // `SegmentedControl { options: [{ value: "type", label: qsTr("Type") }, …]; value: "type" }`.
-// A click reports the segment through activated(); the owner sets `value`.
+// A click reports the segment through activated(); the owner sets `value`. Segments take the
+// keyboard by Tab, not by a click, so the view a click recolours keeps its keys.
 Rectangle {
     id: control
 
@@ -33,6 +34,7 @@ Rectangle {
                 text: modelData.label
                 checkable: true
                 checked: chosen
+                focusPolicy: Qt.TabFocus
                 implicitWidth: Math.max(52, label.implicitWidth + 20)
                 implicitHeight: control.height - 4
                 Accessible.role: Accessible.RadioButton

@@ -15,6 +15,8 @@ AbstractButton {
     Layout.preferredWidth: 1  // equal columns, whatever the labels
     text: label
     hoverEnabled: true
+    // A click leaves the keyboard where it was: the map that the card opens takes it.
+    focusPolicy: Qt.TabFocus
     Accessible.name: label
 
     background: Rectangle {

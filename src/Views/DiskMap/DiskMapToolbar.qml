@@ -4,7 +4,9 @@ import QtQuick.Layouts
 import Mopwell
 
 // The disk map's top bar: where to scan, rescan, the way back up (or the scan's progress while
-// it runs) and how tiles are coloured.
+// it runs) and how tiles are coloured. Its controls take the keyboard by Tab only, never by a
+// click, so the map's keys go on working after one; the Scan menu, which takes it while open,
+// says when it closes so the window can hand it back.
 Item {
     id: bar
 
@@ -12,9 +14,11 @@ Item {
     // [{label, symbol, path}], as on the start screen.
     property var places: []
     property string colorMode: "type"
+    readonly property alias scanMenu: scanMenu
 
     signal colorModeActivated(string mode)
     signal chooseFolderRequested()
+    signal menuClosed()
 
     implicitHeight: row.implicitHeight + 16
 
@@ -30,6 +34,7 @@ Item {
         Button {
             id: scanButton
             objectName: "scanMenuButton"
+            focusPolicy: Qt.TabFocus
             flat: true
             text: qsTr("Scan")
             icon.source: "qrc:/Mopwell/icons/folder.svg"
@@ -41,10 +46,12 @@ Item {
             Menu {
                 id: scanMenu
                 objectName: "scanMenu"
+                onClosed: bar.menuClosed()
                 Repeater {
                     model: bar.places
                     delegate: MenuItem {
                         required property var modelData
+                        objectName: "preset_" + modelData.label
                         text: modelData.label
                         icon.source: "qrc:/Mopwell/icons/" + modelData.symbol + ".svg"
                         icon.color: Theme.primary
@@ -60,6 +67,7 @@ Item {
         }
         ToolButton {
             objectName: "rescanButton"
+            focusPolicy: Qt.TabFocus
             enabled: !bar.map.isScanning
             icon.source: "qrc:/Mopwell/icons/arrow.clockwise.svg"
             icon.width: 14
@@ -102,6 +110,7 @@ Item {
                         }
                         ToolButton {
                             objectName: "crumb_" + crumb.index
+                            focusPolicy: Qt.TabFocus
                             text: crumb.modelData.name
                             font: crumb.last ? Theme.headline : Theme.body
                             onClicked: bar.map.goTo(crumb.index)
@@ -128,6 +137,7 @@ Item {
             }
             Button {
                 objectName: "stopButton"
+                focusPolicy: Qt.TabFocus
                 text: qsTr("Stop")
                 onClicked: bar.map.cancel()
             }

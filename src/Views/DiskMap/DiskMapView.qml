@@ -52,6 +52,10 @@ Window {
         }
     }
 
+    // The arrows, Return and Escape belong to the map: it has the keyboard when the map shows,
+    // and the toolbar's controls take none by a click (see DiskMapToolbar).
+    onHasScannedChanged: if (hasScanned) area.forceActiveFocus()
+
     DiskMapStartScreen {
         objectName: "startScreen"
         anchors.fill: parent
@@ -68,12 +72,14 @@ Window {
         spacing: 0
 
         DiskMapToolbar {
+            objectName: "toolbar"
             Layout.fillWidth: true
             map: diskMap
             places: window.places
             colorMode: window.colorMode
             onColorModeActivated: mode => window.colorMode = mode
             onChooseFolderRequested: diskMap.pickFolderAndScan()
+            onMenuClosed: if (!folderDialog.visible) area.forceActiveFocus()
         }
         Divider { Layout.fillWidth: true }
         DiskMapLegend {

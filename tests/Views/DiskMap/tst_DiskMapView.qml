@@ -168,10 +168,63 @@ TestCase {
         verify(!child(window, "tooltipDetail").text.endsWith(" · hidden"))
     }
 
+    // The arrows, Return and Escape stay with the map whatever was clicked in the toolbar, with
+    // no click on the map to take them back.
+    function test_theMapKeepsTheKeyboardAfterEveryToolbarControl() {
+        const model = support.freshModel()
+        support.writeFile("Downloads/Album/cover.jpg", 400000)
+        support.writeFile("Downloads/readme.txt", 20000)
+        const window = open(model)
+        const map = window.diskMap
+        const mapsFolder = seed()
+        scanned(window, mapsFolder)
+        // Down selects the first entry, a folder; Return enters it and Escape comes back.
+        function keysReachTheMap(after) {
+            tryCompare(map, "isScanning", false)
+            waitForRendering(window.contentItem)
+            map.clearSelection()
+            keyClick(Qt.Key_Down)
+            compare(map.selectedIndex, 0, after)
+            keyClick(Qt.Key_Return)
+            compare(map.breadcrumb.length, 2, after)
+            keyClick(Qt.Key_Escape)
+            compare(map.breadcrumb.length, 1, after)
+        }
+        keysReachTheMap("a scan")
+        for (const mode of ["age", "type"]) {
+            mouseClick(child(window, "segment_" + mode))
+            keysReachTheMap(mode)
+        }
+        keyClick(Qt.Key_Down)
+        keyClick(Qt.Key_Return)
+        waitForRendering(window.contentItem)
+        mouseClick(child(window, "crumb_0"))
+        keysReachTheMap("the breadcrumb")
+        mouseClick(child(window, "rescanButton"))
+        keysReachTheMap("Rescan")
+
+        mouseClick(child(window, "scanMenuButton"))
+        const menu = child(window, "toolbar").scanMenu
+        tryCompare(menu, "opened", true)
+        mouseClick(menuItem(menu, "preset_Downloads"))
+        tryCompare(map, "rootPath", support.home + "/Downloads")
+        keysReachTheMap("the Scan menu")
+
+        // A scan of the whole disk runs long enough to be stopped.
+        map.scan("/")
+        tryVerify(() => map.hasRoot)
+        const stop = child(window, "stopButton")
+        tryVerify(() => stop.visible && stop.width > 0)
+        mouseClick(stop)
+        verify(!map.isScanning)
+        map.scan(mapsFolder)
+        tryVerify(() => map.childCount === 4)
+        keysReachTheMap("Stop")
+    }
+
     function test_keysMoveTheSelectionAndReturnOnlyEntersFolders() {
         const window = open(support.freshModel())
         scanned(window, seed())
-        child(window, "mapArea").forceActiveFocus()
         keyClick(Qt.Key_Down)
         compare(window.diskMap.selectedName, "Videos")
         keyClick(Qt.Key_Down)
