@@ -35,10 +35,6 @@ Item {
             }
         }
         Component {
-            id: toolHeaderComponent
-            ToolHeader { icon: "hammer.fill"; title: "Project Cleanup"; subtitle: "Build folders you can regenerate." }
-        }
-        Component {
             id: rowComponent
             SelectableRow {
                 id: selectable
@@ -48,15 +44,6 @@ Item {
                 property int reveals: 0
                 onToggle: toggles += 1
                 ToolButton { objectName: "reveal"; text: "Reveal"; onClicked: selectable.reveals += 1 }
-            }
-        }
-        Component {
-            id: buttonComponent
-            CleanActionButton {
-                title: "Move to Trash"
-                systemImage: "trash"
-                property int presses: 0
-                onClicked: presses += 1
             }
         }
         Component {
@@ -103,15 +90,11 @@ Item {
             fuzzyCompare(left, full.width - left - action.width, 1)
         }
 
-        function test_toolHeaderShowsTitleAndSubtitle() {
-            const header = create(toolHeaderComponent)
-            compare(findChild(header, "toolHeaderTitle").text, "Project Cleanup")
-            compare(findChild(header, "toolHeaderSubtitle").text, "Build folders you can regenerate.")
-        }
-
         function test_selectableRowAsksItsOwnerToToggle() {
             const row = create(rowComponent)
             const box = findChild(row, "selectableRowBox")
+            verify(!findChild(row, "selectableRowSubtitle").visible)
+            verify(!findChild(row, "selectableRowSize").visible)
             mouseClick(box)
             compare(row.toggles, 1)
             // The box shows the owner's state, not its own idea of it.
@@ -128,16 +111,6 @@ Item {
             compare(row.toggles, 2)
             mouseClick(findChild(row, "reveal"))
             compare(row.reveals, 1)
-        }
-
-        function test_selectableRowShowsOnlyWhatItIsGiven() {
-            const row = create(rowComponent)
-            verify(!findChild(row, "selectableRowSubtitle").visible)
-            verify(!findChild(row, "selectableRowSize").visible)
-            row.subtitle = "~/Library/Developer/Xcode/DerivedData"
-            row.size = 1500000
-            verify(findChild(row, "selectableRowSubtitle").visible)
-            compare(findChild(row, "selectableRowSize").text, "1.5 MB")
         }
 
         function test_selectableRowsKeepTheirColumnsWhateverTheSize() {
@@ -165,16 +138,6 @@ Item {
                 compare(size.implicitWidth, column[0].implicitWidth, size.text)
             verify(column[0].implicitWidth >= proportional.advanceWidth("Zero KB"))
             compare(ones.Accessible.name, "1.1 GB")
-        }
-
-        function test_cleanActionButtonIgnoresPressesWhileDisabled() {
-            const button = create(buttonComponent)
-            compare(button.text, "Move to Trash")
-            mouseClick(button)
-            compare(button.presses, 1)
-            button.enabled = false
-            mouseClick(button)
-            compare(button.presses, 1)
         }
 
         function test_windowCentererCentresItsWindowWhenShown() {

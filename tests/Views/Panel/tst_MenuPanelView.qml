@@ -32,42 +32,35 @@ TestCase {
         return findChild(panel, name).text
     }
 
-    function test_freshnessFollowsTheLastScan() {
+    // The rules behind these texts and colours have their own tests; here, that the panel shows them.
+    function test_theHeaderShowsFreshnessAndHowFullTheDiskIs() {
         const panel = makePanel(false)
         const model = panel.model
         support.setNow(2000000000)
-        const cases = [[9, "just now"], [10, "10s ago"], [59, "59s ago"], [60, "1m ago"], [3599, "59m ago"], [3600, "1h ago"]]
-        for (const [seconds, text] of cases) {
-            support.setLastScanSecondsAgo(model, seconds)
-            compare(textOf(panel, "freshness"), text, seconds + " seconds")
-        }
+        support.setLastScanSecondsAgo(model, 90)
+        compare(textOf(panel, "freshness"), "1m ago")
         support.setScanning(model, "logs")
         compare(textOf(panel, "freshness"), "Scanning…")
         support.setNow(-1)
-    }
 
-    function test_theRingShowsHowFullTheDiskIs() {
-        const panel = makePanel(false)
         const ring = findChild(panel, "diskRing")
         compare(textOf(panel, "percent"), "75%")
         compare(textOf(panel, "available"), "125 GB")
         compare(textOf(panel, "total"), "free of 500 GB")
         compare(textOf(panel, "used"), "375 GB used")
-        compare(ring.ringColor, Theme.orange)                  // exactly three quarters
-        support.setDisk(panel.model, 1000, 100)
-        compare(ring.ringColor, Theme.red)                     // exactly nine tenths
-        support.setDisk(panel.model, 1000, 251)
-        compare(ring.ringColor, Theme.green)
-        support.setDisk(panel.model, 0, 0)
-        compare(textOf(panel, "percent"), "0%")
-        compare(ring.ringColor, Theme.green)
-        support.setDisk(panel.model, 1000, 2000)
+        compare(ring.ringColor, Theme.orange)
+        support.setDisk(model, 1000, 50)
+        compare(ring.ringColor, Theme.red)
+        support.setDisk(model, 1000, 2000)
         compare(textOf(panel, "used"), "Zero KB used")
+        compare(ring.ringColor, Theme.green)
     }
 
     function test_simpleModeGroupsIncludeAndExclude() {
         const panel = makePanel(false)
         const model = panel.model
+        compare(textOf(panel, "reclaimable"), "Zero KB")
+        verify(!findChild(panel, "cleanUp").enabled)
         support.setSize(model, "appcaches", 2e9)
         support.setSize(model, "chrome", 5e8)
         support.setSize(model, "trash", 1e8)
@@ -82,12 +75,6 @@ TestCase {
         compare(model.settings.disabledTargetIDs, ["appcaches", "logs", "thumbnails"])
         mouseClick(firstCheck)
         compare(textOf(panel, "reclaimable"), "2.6 GB")
-    }
-
-    function test_nothingToCleanDisablesCleanUp() {
-        const panel = makePanel(false)
-        compare(textOf(panel, "reclaimable"), "Zero KB")
-        verify(!findChild(panel, "cleanUp").enabled)
     }
 
     function test_developerModeListsEveryTargetUnderStickyHeaders() {
