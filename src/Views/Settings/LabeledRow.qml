@@ -16,7 +16,8 @@ RowLayout {
         text: row.label
         font: Theme.body
         color: Theme.primary
-        elide: Text.ElideRight
+        // Longer in some languages: it takes a second line rather than losing its end.
+        wrapMode: Text.WordWrap
     }
     Item {
         id: slot

@@ -19,9 +19,13 @@ ComboBox {
     textRole: "label"
     valueRole: "value"
     font: Theme.callout
-    implicitWidth: Math.max(120, implicitContentWidth + leftPadding + rightPadding)
+    // Wide enough for the longest choice, so none is cut short once chosen.
+    implicitWidth: Math.max(120, Math.max(0, ...options.map(option => metrics.advanceWidth(option.label)))
+                                 + leftPadding + rightPadding + 12)
     Accessible.name: displayText
     Component.onCompleted: syncIndex()
+    FontMetrics { id: metrics; font: picker.font }
+
     onActivated: index => {
         picked(options[index].value)
         syncIndex()
