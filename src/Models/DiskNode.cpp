@@ -1,14 +1,18 @@
 #include "Models/DiskNode.h"
 
+#include "Models/NodeSlabs.h"
+
 #include <algorithm>
 #include <array>
 #include <cstring>
 #include <new>
 #include <utility>
 
+// A top path holds its whole text; any other holds its last name and a reference to its folder's.
 struct DiskNode::Path::Text {
     std::atomic<std::uint32_t> references{1};
-    std::uint32_t length = 0;
+    std::uint32_t length = 0;  // of the bytes held here
+    Text* parent = nullptr;
     const char* bytes() const { return reinterpret_cast<const char*>(this + 1); }
 };
 
@@ -20,6 +24,7 @@ constexpr auto syntheticFlag = Flag::syntheticFlag;
 constexpr auto modifiedFlag = Flag::modifiedFlag;
 constexpr auto separateNameFlag = Flag::separateNameFlag;
 constexpr auto wholeIdFlag = Flag::wholeIdFlag;
+constexpr auto ownMemoryFlag = Flag::ownMemoryFlag;
 
 // File names are at most 255 bytes; longer text only reaches a record through the general
 // constructor, which moves it into the prefix instead.
@@ -36,23 +41,53 @@ char* copied(std::string_view from, char* to)
 
 }  // namespace
 
-DiskNode::Path::Path(std::string_view text)
+namespace {
+
+// Texts come from the records' slabs too, unless too long for one.
+bool fitsSlab(std::size_t textLength)
 {
-    void* memory = ::operator new(sizeof(Text) + text.size());
-    text_ = new (memory) Text;
-    text_->length = static_cast<std::uint32_t>(text.size());
-    copied(text, reinterpret_cast<char*>(text_ + 1));
+    return sizeof(DiskNode::Path::Text) + textLength <= NodeSlabs::largestCut;
 }
 
-DiskNode::Path::Path(std::string_view folder, std::string_view name)
+DiskNode::Path::Text* madeText(std::string_view bytes)
 {
-    const std::size_t length = folder.size() + 1 + name.size();
-    void* memory = ::operator new(sizeof(Text) + length);
-    text_ = new (memory) Text;
-    text_->length = static_cast<std::uint32_t>(length);
-    char* bytes = reinterpret_cast<char*>(text_ + 1);
-    *copied(folder, bytes) = '/';
-    copied(name, bytes + folder.size() + 1);
+    const std::size_t size = sizeof(DiskNode::Path::Text) + bytes.size();
+    void* memory = fitsSlab(bytes.size()) ? NodeSlabs::take(size) : ::operator new(size);
+    auto* text = new (memory) DiskNode::Path::Text;
+    text->length = static_cast<std::uint32_t>(bytes.size());
+    copied(bytes, reinterpret_cast<char*>(text + 1));
+    return text;
+}
+
+// Drops a reference, and with the last one the text and every folder's it held the last
+// reference to, without recursion however deep the path.
+void released(DiskNode::Path::Text* text)
+{
+    while (text && text->references.fetch_sub(1, std::memory_order_acq_rel) == 1) {
+        DiskNode::Path::Text* parent = text->parent;
+        const bool slab = fitsSlab(text->length);
+        text->~Text();
+        if (slab)
+            NodeSlabs::give(text);
+        else
+            ::operator delete(text);
+        text = parent;
+    }
+}
+
+}  // namespace
+
+DiskNode::Path::Path(std::string_view text) : text_(madeText(text)) {}
+
+DiskNode::Path::Path(const Path& folder, std::string_view name)
+{
+    if (!folder) {
+        text_ = madeText("/" + std::string(name));
+        return;
+    }
+    text_ = madeText(name);
+    text_->parent = folder.text_;
+    text_->parent->references.fetch_add(1, std::memory_order_relaxed);
 }
 
 DiskNode::Path::Path(const Path& other) : text_(other.text_)
@@ -70,13 +105,39 @@ DiskNode::Path& DiskNode::Path::operator=(const Path& other)
 
 DiskNode::Path::~Path()
 {
-    if (text_ && text_->references.fetch_sub(1, std::memory_order_acq_rel) == 1) {
-        text_->~Text();
-        ::operator delete(text_);
+    released(text_);
+}
+
+std::size_t DiskNode::Path::length() const
+{
+    std::size_t length = 0;
+    for (const Text* part = text_; part; part = part->parent)
+        length += part->length + (part->parent ? 1 : 0);
+    return length;
+}
+
+// Written from the end back, so the parts are met in the order they are linked.
+void DiskNode::Path::appendTo(std::string& text) const
+{
+    const std::size_t start = text.size();
+    text.resize(start + length());
+    char* end = text.data() + text.size();
+    for (const Text* part = text_; part; part = part->parent) {
+        end -= part->length;
+        copied({part->bytes(), part->length}, end);
+        if (part->parent)
+            *--end = '/';
     }
 }
 
-std::string_view DiskNode::Path::view() const
+std::string DiskNode::Path::text() const
+{
+    std::string text;
+    appendTo(text);
+    return text;
+}
+
+std::string_view DiskNode::Path::lastPart() const
 {
     return text_ ? std::string_view(text_->bytes(), text_->length) : std::string_view();
 }
@@ -102,14 +163,15 @@ DiskNode DiskNode::allocate(const Path& prefix, std::string_view tail, std::stri
     tail = tail.substr(0, maxInlineText);
     separateName = separateName.substr(0, maxInlineText);
     const std::size_t bytes = sizeof(Record) + childCount * sizeof(DiskNode) + tail.size() + separateName.size();
-    auto* record = new (::operator new(bytes)) Record;
+    const bool ownMemory = bytes > NodeSlabs::largestCut;
+    auto* record = new (ownMemory ? ::operator new(bytes) : NodeSlabs::take(bytes)) Record;
     record->childCount = static_cast<std::uint32_t>(childCount);
     record->size = size;
     record->prefix = prefix;
     record->tailLength = static_cast<std::uint16_t>(tail.size());
     record->nameLength = static_cast<std::uint16_t>(separateName.size());
     record->category = static_cast<std::uint8_t>(category);
-    record->flags = flags & ~modifiedFlag;
+    record->flags = (flags & ~(modifiedFlag | ownMemoryFlag)) | (ownMemory ? ownMemoryFlag : 0);
     if (modified) {
         record->flags |= modifiedFlag;
         record->modified = modified->time_since_epoch().count();
@@ -216,8 +278,12 @@ void DiskNode::release(Record* data)
             if (child && child->references.fetch_sub(1, std::memory_order_acq_rel) == 1)
                 pending.push_back(child);
         }
+        const bool ownMemory = record->flags & ownMemoryFlag;
         record->~Record();
-        ::operator delete(record);
+        if (ownMemory)
+            ::operator delete(record);
+        else
+            NodeSlabs::give(record);
     }
 }
 
@@ -226,14 +292,14 @@ std::string DiskNode::id() const
     if (!data_)
         return {};
     if (data_->flags & wholeIdFlag)
-        return std::string(data_->prefix.view());
+        return data_->prefix.text();
     const std::string_view tail(textOf(data_), data_->tailLength);
     if (!data_->prefix)
         return std::string(tail);
-    const std::string_view prefix = data_->prefix.view();
     std::string id;
-    id.reserve(prefix.size() + 1 + tail.size());
-    id.append(prefix).append(1, '/').append(tail);
+    id.reserve(data_->prefix.length() + 1 + tail.size());
+    data_->prefix.appendTo(id);
+    id.append(1, '/').append(tail);
     return id;
 }
 

@@ -18,11 +18,13 @@
 // and never copies a subtree. The setters give the handle a changed record of its own and leave
 // every other copy as it was.
 //
-// Memory: a record is one allocation of 40 bytes, followed by 8 bytes per child and the name's
-// bytes inline; ids are not stored whole — every child of a folder shares one copy of the
-// folder's path and joins its own name to it when asked. A folder's path costs 8 bytes plus
-// its length, once per folder. So a file with a 12-byte name takes 52 bytes plus its parent's
-// 8-byte reference, about 72 with the allocator's rounding.
+// Memory: a record is 40 bytes, followed by 8 bytes per child and the name's bytes inline, cut
+// from a slab (Models/NodeSlabs) rather than allocated on its own; ids are not stored whole —
+// every child of a folder shares one copy of the folder's path and joins its own name to it when
+// asked. A folder's path is its own name and a reference to its parent's, 16 bytes plus the
+// name, once per folder, so a tree thousands of levels deep doesn't store its long paths over
+// and over. A file with a 12-byte name takes 56 bytes with the rounding to 8, plus its parent's
+// 8-byte reference.
 class DiskNode {
 public:
     // A folder's path, shared by all of its children's records.
@@ -30,17 +32,21 @@ public:
     public:
         Path() = default;
         explicit Path(std::string_view text);
-        // `folder` + "/" + `name`, built in place: the walk makes one per folder it enters.
-        Path(std::string_view folder, std::string_view name);
+        // `folder` + "/" + `name`: the walk makes one per folder it enters, holding `folder`.
+        Path(const Path& folder, std::string_view name);
         Path(const Path& other);
         Path& operator=(const Path& other);
         ~Path();
-        std::string_view view() const;
+        std::size_t length() const;
+        void appendTo(std::string& text) const;
+        std::string text() const;
+        // The name a path was made with from its folder's; the whole text of any other.
+        std::string_view lastPart() const;
         explicit operator bool() const { return text_ != nullptr; }
 
-    private:
-        friend class DiskNode;
         struct Text;
+
+    private:
         Text* text_ = nullptr;
     };
 
@@ -123,6 +129,7 @@ struct DiskNode::Record {
         modifiedFlag = 4,
         separateNameFlag = 8,  // the name follows the tail instead of being the tail
         wholeIdFlag = 16,      // the prefix is the whole id and the tail is empty
+        ownMemoryFlag = 32,    // too large for a slab: allocated on its own
     };
 };
 

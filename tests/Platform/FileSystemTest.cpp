@@ -5,6 +5,7 @@
 #include "Support/TreeBuilder.h"
 
 #include <filesystem>
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 namespace fs = std::filesystem;
@@ -20,7 +21,7 @@ public:
         maxDepth = std::max(maxDepth, entry.depth);
         if (entry.info.isSymlink())
             ++links;
-        if (entry.depth % 500 == 0)
+        if (entry.depth % 500 == 0 || entry.depth == 1000)
             maxDescriptors = std::max(maxDescriptors, TreeBuilder::openDescriptorCount());
         return entry.info.isFolder() ? DirectoryWalker::Action::descend : DirectoryWalker::Action::skip;
     }
@@ -32,16 +33,34 @@ public:
 
 }  // namespace
 
-TEST_F(TempHomeTest, WalkerGoesThousandsOfLevelsDeepWithFewDescriptors)
+// However deep the tree, the walker holds at most a quarter of the descriptors the process may
+// open: under a tight limit it climbs back through "..", under a loose one it keeps them all.
+TEST_F(TempHomeTest, WalkerGoesThousandsOfLevelsDeepWithinTheDescriptorLimit)
 {
     const std::string root = tempHome.makeFolder("deep");
     TreeBuilder::makeDeepChain(root, 1200, "level-with-a-longish-name", 10);
-    CountingVisitor visitor;
-    EXPECT_TRUE(DirectoryWalker::walk(root, visitor));
-    EXPECT_EQ(visitor.maxDepth, 1201);  // the file below the 1200th folder
-    EXPECT_EQ(visitor.entries, 1201);
-    EXPECT_EQ(visitor.left, 1200);
-    EXPECT_LT(visitor.maxDescriptors, 120);  // bounded, although the path is far past PATH_MAX
+    struct rlimit original {};
+    ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &original), 0);
+    struct Case {
+        rlim_t limit;
+        int fewest, most;  // descriptors open 1,000 levels down
+    };
+    for (const Case& c : {Case{256, 0, 120}, Case{8192, 1000, 1100}}) {
+        if (c.limit > original.rlim_max)
+            continue;
+        struct rlimit changed = original;
+        changed.rlim_cur = c.limit;
+        ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &changed), 0);
+        CountingVisitor visitor;
+        const bool walked = DirectoryWalker::walk(root, visitor);
+        setrlimit(RLIMIT_NOFILE, &original);
+        EXPECT_TRUE(walked) << c.limit;
+        EXPECT_EQ(visitor.maxDepth, 1201) << c.limit;  // the file below the 1200th folder
+        EXPECT_EQ(visitor.entries, 1201) << c.limit;
+        EXPECT_EQ(visitor.left, 1200) << c.limit;
+        EXPECT_GE(visitor.maxDescriptors, c.fewest) << c.limit;
+        EXPECT_LE(visitor.maxDescriptors, c.most) << c.limit;  // although the path is far past PATH_MAX
+    }
 
     EXPECT_TRUE(FileSystem::removeItem(root + "/level-with-a-longish-name"));
     EXPECT_EQ(TreeBuilder::chainDepth(root, "level-with-a-longish-name"), 0);
