@@ -127,7 +127,7 @@ print_memory() {
     base=$(peak_kb "${commands[$name]}" "$empty")
     perItem=$(awk -v p="$best" -v b="$base" -v n="$items" 'BEGIN { printf "%.1f", (p - b) * 1024 / n }')
     printf "  %-22s peak %7d KB, empty %6d KB, %7s bytes per item\n" "$name" "$best" "$base" "$perItem"
-    [ "$name" = "mopwell-scan diskmap" ] && echo "$perItem" >"$work/memory"
+    if [ "$name" = "mopwell-scan diskmap" ]; then echo "$perItem" >"$work/memory"; fi
   done
 }
 
