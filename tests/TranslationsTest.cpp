@@ -31,8 +31,8 @@ std::vector<Unfinished> unfinishedIn(const QString& path)
     QXmlStreamReader xml(&file);
     std::vector<Unfinished> found;
     QString context, source;
-    while (xml.readNextStartElement() || !xml.atEnd()) {
-        if (!xml.isStartElement())
+    while (!xml.atEnd()) {
+        if (xml.readNext() != QXmlStreamReader::StartElement)
             continue;
         const auto name = xml.name();
         if (name == QLatin1String("name")) {

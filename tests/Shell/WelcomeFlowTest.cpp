@@ -26,14 +26,15 @@ TEST(WelcomeFlowPlacement, TheWelcomeAndTheBubbleLeaveTheStatusIconInReach)
         qreal iconX;
         bool pointsUp;
     };
+    // The icon's x is its frame's centre, rounded down as QRect does.
     const Case cases[] = {
         // A top panel that reserves its room: the work area already leaves it out.
-        {"top panel", {0, 26, 1280, 774}, {1200, 0, 24, 26}, {0, 26, 1280, 774}, {0, 26, 1280, 200}, 1212, true},
+        {"top panel", {0, 26, 1280, 774}, {1200, 0, 24, 26}, {0, 26, 1280, 774}, {0, 26, 1280, 200}, 1211, true},
         // A bare X server or a panel that reserves nothing: the icon's band is left out anyway.
-        {"no reserved room", screen, {1200, 0, 24, 26}, {0, 26, 1280, 774}, {0, 26, 1280, 200}, 1212, true},
+        {"no reserved room", screen, {1200, 0, 24, 26}, {0, 26, 1280, 774}, {0, 26, 1280, 200}, 1211, true},
         // A bottom panel: the bubble sits just above the icon and points down.
-        {"bottom panel", {0, 0, 1280, 760}, {900, 764, 32, 32}, {0, 0, 1280, 760}, {0, 560, 1280, 200}, 916, false},
-        {"bottom, no reserved room", screen, {900, 764, 32, 32}, {0, 0, 1280, 764}, {0, 564, 1280, 200}, 916, false},
+        {"bottom panel", {0, 0, 1280, 760}, {900, 764, 32, 32}, {0, 0, 1280, 760}, {0, 560, 1280, 200}, 915, false},
+        {"bottom, no reserved room", screen, {900, 764, 32, 32}, {0, 0, 1280, 764}, {0, 564, 1280, 200}, 915, false},
         // The desktop doesn't say where the icon is: near the right end of the top.
         {"unknown icon", {0, 30, 1280, 770}, {}, {0, 30, 1280, 770}, {0, 30, 1280, 200}, 1160, true},
     };

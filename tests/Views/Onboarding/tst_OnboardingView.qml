@@ -59,6 +59,13 @@ TestCase {
         return item
     }
 
+    // Waits for the visible step's short fade to end, as a picture of it should.
+    function settle(window) {
+        const steps = child(window, "steps")
+        tryCompare(steps.children[steps.currentIndex], "progress", 1)
+        waitForRendering(window.contentItem)
+    }
+
     // What the visible step shows, by object name, inside the card.
     function visibleChild(window, name) {
         const steps = child(window, "steps")
@@ -115,6 +122,7 @@ TestCase {
                 if (marks.children[i].objectName === "progressMark")
                     widths.push(marks.children[i].width)
             compare(widths, [0, 1, 2, 3].map(index => index === step ? 20 : 7))
+            settle(window)
             verify(support.saveScreenshot(window.contentItem, "onboarding-" + ["welcome", "safety", "personalize", "ready"][step]))
             if (step < 3)
                 keyClick(Qt.Key_Return)   // the default action: Continue
@@ -244,6 +252,7 @@ TestCase {
         support.setLanguage("de")
         const window = open(true)
         mouseClick(child(window, "continue"))
+        settle(window)
         verify(support.saveScreenshot(window.contentItem, "onboarding-german"))
         support.setLanguage("")
     }
