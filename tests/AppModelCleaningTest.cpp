@@ -12,18 +12,13 @@
 #include <qcoro/qcorotask.h>
 
 #include <filesystem>
-#include <fstream>
 
 namespace fs = std::filesystem;
 using ::testing::ElementsAre;
 
 namespace {
 
-std::string readAll(const std::string& path)
-{
-    std::ifstream in(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), {}};
-}
+using TreeBuilder::contentsOf;
 
 class AppModelCleaningTest : public ModelFixture {
 protected:
@@ -36,16 +31,7 @@ protected:
         TreeBuilder::writeFile(logs + "/crash report.txt", 3'000);
         TreeBuilder::writeFile(logs + "/.state", 100);
     }
-    std::vector<std::string> trashInfoFiles() const
-    {
-        std::vector<std::string> names;
-        const std::string info = Trash::homeTrashFolder() + "/info";
-        if (fs::exists(info)) {
-            for (const auto& entry : fs::directory_iterator(info))
-                names.push_back(entry.path().filename().string());
-        }
-        return names;
-    }
+    static std::vector<std::string> trashInfoFiles() { return TreeBuilder::namesIn(Trash::homeTrashFolder() + "/info"); }
 };
 
 }  // namespace
@@ -53,7 +39,7 @@ protected:
 TEST_F(AppModelCleaningTest, ACleanGoesToTheTrashIsRecordedAndCanBePutBack)
 {
     seedLogs();
-    const std::string original = readAll(logs + "/app/today.log");
+    const std::string original = contentsOf(logs + "/app/today.log");
     QCoro::waitFor(model->scan("logs"));
     const auto sizeBefore = *state("logs")->size;
 
@@ -90,7 +76,7 @@ TEST_F(AppModelCleaningTest, ACleanGoesToTheTrashIsRecordedAndCanBePutBack)
     EXPECT_EQ(reread.total, sizeBefore);
 
     model->restore(record);
-    EXPECT_EQ(readAll(logs + "/app/today.log"), original);
+    EXPECT_EQ(contentsOf(logs + "/app/today.log"), original);
     EXPECT_TRUE(fs::exists(logs + "/crash report.txt"));
     EXPECT_TRUE(trashInfoFiles().empty());
     EXPECT_EQ(model->history().front().restored, true);

@@ -23,18 +23,9 @@ std::map<std::string, std::string> contentsBelow(const std::string& folder)
     for (const auto& entry : fs::recursive_directory_iterator(folder)) {
         if (!entry.is_regular_file())
             continue;
-        std::ifstream in(entry.path(), std::ios::binary);
-        files[entry.path().string()] = {std::istreambuf_iterator<char>(in), {}};
+        files[entry.path().string()] = TreeBuilder::contentsOf(entry.path());
     }
     return files;
-}
-
-std::vector<std::string> namesIn(const std::string& folder)
-{
-    std::vector<std::string> names;
-    for (const auto& entry : fs::directory_iterator(folder))
-        names.push_back(entry.path().filename().string());
-    return names;
 }
 
 // A home as a Linux desktop fills it, over a model with the Linux catalog in simple mode.
@@ -96,7 +87,7 @@ TEST_F(AppModelLinuxHomeTest, SimpleModeCountsEveryCacheOnceAndCleanUpTrashesExa
     ASSERT_TRUE(waitUntil([&] { return !model->isCleaningAll() && model->statusMessage().startsWith("Freed"); }));
 
     // The old Trash is emptied for good; the caches take its place, and nothing else does.
-    EXPECT_THAT(namesIn(trash + "/files"), UnorderedElementsAre("normal", "large", "k3x9q2z1.default-release", "pip"));
+    EXPECT_THAT(TreeBuilder::namesIn(trash + "/files"), UnorderedElementsAre("normal", "large", "k3x9q2z1.default-release", "pip"));
     EXPECT_EQ(Scanner::directorySize(trash + "/files"), seeded);
     for (const auto& path : caches)
         EXPECT_FALSE(fs::exists(path)) << path;

@@ -1,6 +1,7 @@
 #include "Models/CleanupCatalog.h"
 #include "Models/LinuxCatalog.h"
 #include "Platform/Paths.h"
+#include "Support/CatalogRows.h"
 #include "Support/TempHome.h"
 
 #include <gmock/gmock.h>
@@ -18,22 +19,8 @@ const std::set<std::string> macOnly = {"musiccache", "maildownloads", "safari", 
                                        "devicesupport", "sims", "pods"};
 const std::set<std::string> linuxOnly = {"thumbnails", "flatpakcaches", "chromium"};
 
-std::vector<std::string> idsOf(const std::vector<CleanupTarget>& targets)
-{
-    std::vector<std::string> ids;
-    for (const auto& target : targets)
-        ids.push_back(target.id);
-    return ids;
-}
-
-const CleanupTarget& find(const std::vector<CleanupTarget>& targets, const std::string& id)
-{
-    for (const auto& target : targets) {
-        if (target.id == id)
-            return target;
-    }
-    throw std::out_of_range(id);
-}
+using CatalogRows::find;
+using CatalogRows::idsOf;
 
 // Every folder a row measures or leaves out, "~" expanded.
 std::vector<std::string> foldersOf(const CleanupTarget& target)

@@ -3,6 +3,7 @@
 #include "Platform/Trash.h"
 #include "Support/DroppedCapabilities.h"
 #include "Support/TempHome.h"
+#include "Support/TreeBuilder.h"
 
 #include <cerrno>
 #include <climits>
@@ -12,7 +13,6 @@
 #include <filesystem>
 #include <fstream>
 #include <optional>
-#include <sstream>
 #include <sys/mount.h>
 #include <unistd.h>
 
@@ -20,12 +20,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-std::string readFile(const std::string& path)
-{
-    std::stringstream contents;
-    contents << std::ifstream(path, std::ios::binary).rdbuf();
-    return contents.str();
-}
+using TreeBuilder::contentsOf;
 
 void writeFile(const std::string& path, const std::string& contents)
 {
@@ -41,7 +36,7 @@ bool exists(const std::string& path)
 std::string infoFor(const std::string& trashPath)
 {
     const fs::path path(trashPath);
-    return readFile((path.parent_path().parent_path() / "info" / path.filename()).string() + ".trashinfo");
+    return contentsOf((path.parent_path().parent_path() / "info" / path.filename()).string() + ".trashinfo");
 }
 
 // trash-cli inherits our temporary HOME and XDG_DATA_HOME, so it sees the same trash we do.
@@ -106,14 +101,14 @@ TEST_F(TrashTest, RoundTripRecordsTheEncodedPathAndLocalDateThenPutsBack)
     ASSERT_TRUE(result.trashed);
     ASSERT_EQ(result.trashPath, trash + "/files/a 100% na\xC3\xAFve\nname");
     EXPECT_FALSE(exists(item));
-    EXPECT_EQ(readFile(*result.trashPath), payload);
+    EXPECT_EQ(contentsOf(*result.trashPath), payload);
     EXPECT_EQ(infoFor(*result.trashPath),
               "[Trash Info]\nPath=" + home + "/some%20dir/a%20100%25%20na%C3%AFve%0Aname\nDeletionDate=2024-02-29T15:05:09\n");
     for (const char* folder : {"", "/files", "/info"})
         EXPECT_EQ(fs::status(trash + folder).permissions(), fs::perms::owner_all) << folder;
 
     ASSERT_TRUE(Trash::putBack(*result.trashPath, item));
-    EXPECT_EQ(readFile(item), payload);
+    EXPECT_EQ(contentsOf(item), payload);
     EXPECT_TRUE(fs::is_empty(trash + "/files") && fs::is_empty(trash + "/info"));
 
     setenv("XDG_DATA_HOME", "relative/data", 1);  // invalid, so ignored
@@ -130,7 +125,7 @@ TEST_F(TrashTest, SameNamesGetDistinctTrashNamesAndKeepTheirOwnRecords)
     const auto second = Trash::trashItem(home + "/b/notes.txt");
     ASSERT_TRUE(first.trashed && second.trashed);
     EXPECT_EQ(second.trashPath, trash + "/files/notes.3.txt");
-    EXPECT_EQ(readFile(trash + "/files/notes.2.txt"), "orphan");
+    EXPECT_EQ(contentsOf(trash + "/files/notes.2.txt"), "orphan");
     EXPECT_FALSE(exists(trash + "/info/notes.2.txt.trashinfo"));
     EXPECT_NE(infoFor(*second.trashPath).find("Path=" + home + "/b/notes.txt\n"), std::string::npos);
 
@@ -151,8 +146,8 @@ TEST_F(TrashTest, SameNamesGetDistinctTrashNamesAndKeepTheirOwnRecords)
     EXPECT_TRUE(Trash::putBack(*second.trashPath, home + "/b/notes.txt"));
     EXPECT_TRUE(Trash::putBack(*first.trashPath, home + "/a/notes.txt"));
     EXPECT_TRUE(Trash::putBack(*longSecond.trashPath, home + "/b/" + longName));
-    EXPECT_EQ(readFile(home + "/a/notes.txt") + readFile(home + "/b/notes.txt"), "AB");
-    EXPECT_EQ(readFile(home + "/b/" + longName), "long B");
+    EXPECT_EQ(contentsOf(home + "/a/notes.txt") + contentsOf(home + "/b/notes.txt"), "AB");
+    EXPECT_EQ(contentsOf(home + "/b/" + longName), "long B");
 }
 
 TEST_F(TrashTest, FoldersGoWholeAndLinksGoAsLinks)
@@ -165,12 +160,12 @@ TEST_F(TrashTest, FoldersGoWholeAndLinksGoAsLinks)
 
     const auto tree = Trash::trashItem(home + "/tree/");
     ASSERT_TRUE(tree.trashed);
-    EXPECT_EQ(readFile(*tree.trashPath + "/sub/deep.txt"), "deep");
+    EXPECT_EQ(contentsOf(*tree.trashPath + "/sub/deep.txt"), "deep");
     EXPECT_EQ(fs::read_symlink(*tree.trashPath + "/shortcut"), "sub/deep.txt");
     const auto pointer = Trash::trashItem(home + "/pointer");
     ASSERT_TRUE(pointer.trashed);
     EXPECT_EQ(fs::read_symlink(*pointer.trashPath), home + "/target.txt");
-    EXPECT_EQ(readFile(home + "/target.txt"), "target");
+    EXPECT_EQ(contentsOf(home + "/target.txt"), "target");
     EXPECT_TRUE(Trash::trashItem(home + "/dangling").trashed);
 }
 
@@ -180,13 +175,13 @@ TEST_F(TrashTest, TrashCliListsAndRestoresOurItemsAndWeAvoidItsNames)
         GTEST_SKIP() << "trash-cli is not installed (scripts/bootstrap installs it)";
     writeFile(home + "/old/report.txt", "theirs");
     shell("trash-put '" + home + "/old/report.txt'");
-    ASSERT_EQ(readFile(trash + "/files/report.txt"), "theirs");
+    ASSERT_EQ(contentsOf(trash + "/files/report.txt"), "theirs");
 
     writeFile(home + "/docs/report.txt", "ours");
     writeFile(home + "/docs/na\xC3\xAFve 50%.txt", "encoded");
     const auto ours = Trash::trashItem(home + "/docs/report.txt");
     ASSERT_TRUE(ours.trashed);
-    EXPECT_EQ(readFile(trash + "/files/report.txt"), "theirs");
+    EXPECT_EQ(contentsOf(trash + "/files/report.txt"), "theirs");
     ASSERT_TRUE(Trash::trashItem(home + "/docs/na\xC3\xAFve 50%.txt").trashed);
 
     const std::string listed = shell("trash-list");
@@ -195,7 +190,7 @@ TEST_F(TrashTest, TrashCliListsAndRestoresOurItemsAndWeAvoidItsNames)
 
     // trash-restore offers what was trashed below the working folder and asks for a number.
     shell("cd '" + home + "/docs' && echo 0 | trash-restore && echo 0 | trash-restore");
-    EXPECT_EQ(readFile(home + "/docs/report.txt") + readFile(home + "/docs/na\xC3\xAFve 50%.txt"), "oursencoded");
+    EXPECT_EQ(contentsOf(home + "/docs/report.txt") + contentsOf(home + "/docs/na\xC3\xAFve 50%.txt"), "oursencoded");
     EXPECT_FALSE(exists(home + "/old/report.txt"));
 }
 
@@ -231,7 +226,7 @@ TEST_F(TrashTest, AnUnwritableHomeTrashFailsAndLeavesNoRecord)
     fs::create_directories(trash + "/files");
     fs::permissions(trash + "/files", fs::perms::owner_read | fs::perms::owner_exec);
     EXPECT_FALSE(Trash::trashItem(item).trashed);
-    EXPECT_EQ(readFile(item), "keep");
+    EXPECT_EQ(contentsOf(item), "keep");
     EXPECT_TRUE(fs::is_empty(trash + "/info"));
 }
 
@@ -242,11 +237,11 @@ TEST_F(TrashTest, PutBackNeverReplacesAndRecreatesMissingFolders)
     ASSERT_TRUE(trashed.trashed);
     writeFile(item, "new");
     EXPECT_FALSE(Trash::putBack(*trashed.trashPath, item));
-    EXPECT_EQ(readFile(item) + readFile(*trashed.trashPath), "newold");
+    EXPECT_EQ(contentsOf(item) + contentsOf(*trashed.trashPath), "newold");
     EXPECT_FALSE(infoFor(*trashed.trashPath).empty());
 
     ASSERT_TRUE(Trash::putBack(*trashed.trashPath, home + "/gone/deeper/file.txt"));
-    EXPECT_EQ(readFile(home + "/gone/deeper/file.txt"), "old");
+    EXPECT_EQ(contentsOf(home + "/gone/deeper/file.txt"), "old");
     EXPECT_TRUE(fs::is_empty(trash + "/info"));
     EXPECT_FALSE(Trash::putBack(*trashed.trashPath, home + "/again.txt"));
 }
@@ -279,7 +274,7 @@ TEST_F(TrashTest, VolumeItemsGoToThePrivateVolumeTrashWithARelativePath)
     fs::create_directory(volume + "/.Trash-" + uid);
     ASSERT_EQ(chown((volume + "/.Trash-" + uid).c_str(), getuid() + 1, getgid()), 0);
     EXPECT_FALSE(Trash::trashItem(item).trashed);
-    EXPECT_EQ(readFile(item), "on volume");
+    EXPECT_EQ(contentsOf(item), "on volume");
     EXPECT_TRUE(fs::is_empty(volume + "/elsewhere/info"));
 }
 
@@ -309,7 +304,7 @@ TEST_F(TrashTest, TheSharedVolumeTrashIsUsedOnlyWhenStickyAndNoLink)
     fs::remove(shared);
     fs::rename(volume + "/sticky", shared);
     EXPECT_EQ(trashFolderOf("proper"), shared + "/" + uid);
-    EXPECT_NE(readFile(shared + "/" + uid + "/info/proper.trashinfo").find("\nPath=proper\n"), std::string::npos);
+    EXPECT_NE(contentsOf(shared + "/" + uid + "/info/proper.trashinfo").find("\nPath=proper\n"), std::string::npos);
 }
 
 TEST_F(TrashTest, ABindMountOfTheHomeVolumeUsesItsOwnTrash)

@@ -1,20 +1,11 @@
 #include "Platform/Volumes.h"
+#include "Support/PathsOf.h"
 #include "Support/TempHome.h"
 
 #include <filesystem>
 #include <regex>
 
-using Volumes::MountedVolume;
-
 namespace {
-
-std::vector<std::string> pathsOf(const std::vector<MountedVolume>& volumes)
-{
-    std::vector<std::string> paths;
-    for (const auto& volume : volumes)
-        paths.push_back(volume.path);
-    return paths;
-}
 
 // A desktop machine's table: a system split over several partitions, the kernel's own file
 // systems, a snap, two sticks, a network share, drives inside the home folder, and the oddities.

@@ -4,6 +4,7 @@
 #include "Models/CleanupCatalog.h"
 #include "Platform/Trash.h"
 #include "Services/Cleaner.h"
+#include "Support/CatalogRows.h"
 #include "Support/TempHome.h"
 #include "Support/TreeBuilder.h"
 #include "Support/TreeSnapshot.h"
@@ -18,6 +19,8 @@
 namespace fs = std::filesystem;
 
 namespace {
+
+using CatalogRows::folders;
 
 class ScopedVariable {
 public:
@@ -45,18 +48,7 @@ protected:
     std::string root = tempHome.root();
     std::string H = tempHome.home();
 
-    static CleanupTarget folders(std::vector<std::string> paths)
-    {
-        return {"t", "T", "folder.fill", "", PathsKind{std::move(paths)}, CleanupCategory::custom, false};
-    }
-    static CleanupTarget trashRow()
-    {
-        for (const auto& target : CleanupCatalog::builtIn()) {
-            if (target.id == "trash")
-                return target;
-        }
-        throw std::out_of_range("trash");
-    }
+    static CleanupTarget trashRow() { return CatalogRows::builtIn("trash"); }
     // A trash folder at `folder` with one trashed file, as a file manager leaves it.
     static void fillTrash(const std::string& folder)
     {

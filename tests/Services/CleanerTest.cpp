@@ -2,6 +2,7 @@
 #include "Platform/Trash.h"
 #include "Services/Cleaner.h"
 #include "Services/Scanner.h"
+#include "Support/CatalogRows.h"
 #include "Support/DroppedCapabilities.h"
 #include "Support/TempHome.h"
 #include "Support/TreeBuilder.h"
@@ -17,33 +18,22 @@ using ::testing::UnorderedElementsAre;
 
 namespace {
 
+using CatalogRows::folders;
+
 class CleanerTest : public TempHomeTest {
 protected:
     std::string H = tempHome.home();
 
-    static CleanupTarget folders(std::vector<std::string> paths)
-    {
-        return {"t", "T", "folder.fill", "", PathsKind{std::move(paths)}, CleanupCategory::custom, false};
-    }
     static CleanupTarget command(std::string shell, std::vector<std::string> fallback)
     {
         return {"c", "C", "cube.box.fill", "", CommandKind{std::move(shell), std::move(fallback)},
                 CleanupCategory::developer, true};
     }
-    static CleanupTarget builtIn(const std::string& id)
+    // A target's folder is emptied, never removed.
+    static std::vector<std::string> contents(const std::string& folder)
     {
-        for (const auto& target : CleanupCatalog::builtIn(PlatformProfile::macOS)) {
-            if (target.id == id)
-                return target;
-        }
-        throw std::out_of_range(id);
-    }
-    std::vector<std::string> contents(const std::string& folder) const
-    {
-        std::vector<std::string> names;
-        for (const auto& entry : fs::directory_iterator(folder))
-            names.push_back(entry.path().filename().string());
-        return names;
+        EXPECT_TRUE(fs::is_directory(folder)) << folder;
+        return TreeBuilder::namesIn(folder);
     }
     // Everything outside the target folders and the Trash.
     TreeSnapshot outside(const std::vector<std::string>& targets) const
@@ -68,11 +58,10 @@ TEST_F(CleanerTest, FoldersAreEmptiedIntoTheTrashAndKept)
     const auto before = outside({cache});
     const auto size = Scanner::directorySize(cache);
 
-    const CleanOutcome outcome = Cleaner::clean(builtIn("appcaches"), true);
+    const CleanOutcome outcome = Cleaner::clean(CatalogRows::builtIn("appcaches", PlatformProfile::macOS), true);
 
     EXPECT_EQ(outcome.error, std::nullopt);
     EXPECT_EQ(outcome.freed, size);
-    EXPECT_TRUE(fs::is_directory(cache));
     EXPECT_TRUE(contents(cache).empty());
     ASSERT_EQ(outcome.trashed.size(), 5u);
     for (const auto& item : outcome.trashed) {

@@ -2,6 +2,7 @@
 
 #include "Services/FileDigest.h"
 #include "Support/DroppedCapabilities.h"
+#include "Support/PathsOf.h"
 #include "Support/TempHome.h"
 #include "Support/TreeBuilder.h"
 
@@ -27,14 +28,6 @@ std::vector<ScannedFile> files(const std::vector<std::pair<std::string, std::int
     for (const auto& [path, size] : list)
         result.push_back({path, size});
     return result;
-}
-
-std::vector<std::string> pathsOf(const std::vector<ScannedFile>& list)
-{
-    std::vector<std::string> paths;
-    for (const ScannedFile& file : list)
-        paths.push_back(file.path);
-    return paths;
 }
 
 TEST(DuplicateScannerStages, BucketsStartAtTheFloorRunLargestFirstAndDropLoneSizes)

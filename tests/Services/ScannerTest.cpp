@@ -1,5 +1,6 @@
 #include "Models/CleanupCatalog.h"
 #include "Services/Scanner.h"
+#include "Support/CatalogRows.h"
 #include "Support/DroppedCapabilities.h"
 #include "Support/TempHome.h"
 #include "Support/TreeBuilder.h"
@@ -9,14 +10,7 @@
 
 namespace fs = std::filesystem;
 
-namespace {
-
-CleanupTarget pathsTarget(std::vector<std::string> paths)
-{
-    return {"t", "T", "folder.fill", "", PathsKind{std::move(paths)}, CleanupCategory::custom, false};
-}
-
-}  // namespace
+using CatalogRows::folders;
 
 TEST_F(TempHomeTest, DirectorySizeCountsAllocatedBytesOfRegularFilesOnly)
 {
@@ -57,7 +51,7 @@ TEST_F(TempHomeTest, TargetSizesFollowTheirKind)
     TreeBuilder::writeFile(home + "/a/x", 5000);
     TreeBuilder::writeFile(home + "/b/y", 9000);
     std::vector<std::int64_t> reports;
-    const auto size = Scanner::size(pathsTarget({"~/a", "~/missing", "~/b"}),
+    const auto size = Scanner::size(folders({"~/a", "~/missing", "~/b"}),
                                     [&](std::int64_t bytes) { reports.push_back(bytes); });
     const std::int64_t a = TreeBuilder::allocatedSize(home + "/a/x");
     const std::int64_t b = TreeBuilder::allocatedSize(home + "/b/y");
@@ -66,16 +60,13 @@ TEST_F(TempHomeTest, TargetSizesFollowTheirKind)
     EXPECT_EQ(reports, (std::vector<std::int64_t>{a, a, a + b}));
 
     // Missing folders measure 0, not "unknown".
-    EXPECT_EQ(Scanner::size(pathsTarget({"~/nope"})), 0);
-    EXPECT_EQ(Scanner::size(pathsTarget({})), std::nullopt);
+    EXPECT_EQ(Scanner::size(folders({"~/nope"})), 0);
+    EXPECT_EQ(Scanner::size(folders({})), std::nullopt);
 
     // A command target is measured by its fallback folders and never run.
     TreeBuilder::writeFile(home + "/.npm/_cacache/blob", 3000);
-    const auto& catalog = CleanupCatalog::builtIn();
-    const auto npm = std::find_if(catalog.begin(), catalog.end(), [](const auto& t) { return t.id == "npm"; });
-    EXPECT_EQ(Scanner::size(*npm), TreeBuilder::allocatedSize(home + "/.npm/_cacache/blob"));
-    const auto docker = std::find_if(catalog.begin(), catalog.end(), [](const auto& t) { return t.id == "docker"; });
-    EXPECT_EQ(Scanner::size(*docker), std::nullopt);
+    EXPECT_EQ(Scanner::size(CatalogRows::builtIn("npm")), TreeBuilder::allocatedSize(home + "/.npm/_cacache/blob"));
+    EXPECT_EQ(Scanner::size(CatalogRows::builtIn("docker")), std::nullopt);
 
     // A build-folder rule that finds nothing has no size.
     EXPECT_EQ(Scanner::size(CleanupCatalog::finderTargets({"~/no-projects"}, {}, 0)[0]), std::nullopt);

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 // Builds test trees quickly, including shapes std::filesystem can't reach: paths longer than the
 // system limit are made one level at a time through directory descriptors.
@@ -18,6 +19,12 @@ void writeFile(const std::string& path, std::size_t bytes);
 
 // The bytes an item takes on disk (its blocks), without following a link.
 std::int64_t allocatedSize(const std::string& path);
+
+// A file's bytes, whatever they are; empty when it can't be read.
+std::string contentsOf(const std::string& path);
+
+// The names in a folder, sorted; empty when it can't be listed.
+std::vector<std::string> namesIn(const std::string& folder);
 
 // Entries open in this process right now.
 int openDescriptorCount();

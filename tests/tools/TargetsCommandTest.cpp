@@ -24,12 +24,6 @@ nlohmann::json runTool(std::vector<std::string> arguments)
     return nlohmann::json::parse(result.output);
 }
 
-std::string bytesOf(const std::string& path)
-{
-    std::ifstream in(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), {}};
-}
-
 class TargetsCommandTest : public TempHomeTest {
 protected:
     std::string H = tempHome.home();
@@ -64,7 +58,7 @@ protected:
 
 TEST_F(TargetsCommandTest, ListsAndMeasuresWhatThePanelWouldAndChangesNothing)
 {
-    const std::string defaults = bytesOf(DefaultsStore::standardPath());
+    const std::string defaults = TreeBuilder::contentsOf(DefaultsStore::standardPath());
     const auto preview = runTool({"targets", "--json"});
 
     EXPECT_EQ(preview.at("profile"), "linux");
@@ -85,7 +79,7 @@ TEST_F(TargetsCommandTest, ListsAndMeasuresWhatThePanelWouldAndChangesNothing)
 
     for (const auto& path : {pip, thumbnail, firefox, npm})
         EXPECT_TRUE(fs::exists(path)) << path;
-    EXPECT_EQ(bytesOf(DefaultsStore::standardPath()), defaults);
+    EXPECT_EQ(TreeBuilder::contentsOf(DefaultsStore::standardPath()), defaults);
 }
 
 TEST_F(TargetsCommandTest, TakesDeveloperModeAndTheOtherDesktopByName)
@@ -111,7 +105,7 @@ TEST_F(TargetsCommandTest, ADamagedSettingsFileIsLeftWhereItIs)
     std::ofstream(path, std::ios::binary | std::ios::trunc) << "not a property list";
     const auto preview = runTool({"targets", "--json"});
     EXPECT_EQ(row(preview, "thumbnails").at("enabled"), true) << "read as a first start would";
-    EXPECT_EQ(bytesOf(path), "not a property list");
+    EXPECT_EQ(TreeBuilder::contentsOf(path), "not a property list");
     for (const auto& entry : fs::directory_iterator(fs::path(path).parent_path()))
         EXPECT_EQ(entry.path().string().find("damaged"), std::string::npos) << entry.path() << " was set aside";
 }

@@ -4,6 +4,7 @@
 #include "Platform/Trash.h"
 #include "Services/Scanner.h"
 #include "Support/ModelFixture.h"
+#include "Support/PathsOf.h"
 
 #include <gmock/gmock.h>
 
@@ -17,14 +18,6 @@ using ::testing::UnorderedElementsAre;
 namespace fs = std::filesystem;
 
 namespace {
-
-std::vector<std::string> pathsOf(const std::vector<ProjectDir>& dirs)
-{
-    std::vector<std::string> paths;
-    for (const ProjectDir& dir : dirs)
-        paths.push_back(dir.path);
-    return paths;
-}
 
 class ProjectCleanupScanTest : public ModelFixture {
 protected:
