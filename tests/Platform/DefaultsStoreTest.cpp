@@ -1,6 +1,7 @@
 #include "Platform/DefaultsStore.h"
 #include "Support/DroppedCapabilities.h"
 #include "Support/TempHome.h"
+#include "Support/TreeBuilder.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -12,20 +13,8 @@ namespace fs = std::filesystem;
 
 namespace {
 
-std::string readText(const std::string& path)
-{
-    std::ifstream in(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), {}};
-}
-
-std::vector<std::string> filesIn(const std::string& folder)
-{
-    std::vector<std::string> names;
-    for (const auto& entry : fs::directory_iterator(folder))
-        names.push_back(entry.path().filename().string());
-    std::sort(names.begin(), names.end());
-    return names;
-}
+using TreeBuilder::contentsOf;
+using TreeBuilder::namesIn;
 
 }  // namespace
 
@@ -72,23 +61,21 @@ TEST_F(TempHomeTest, EveryTypeSurvivesAReopenWithItsTypeIntact)
     EXPECT_EQ(store.date("real"), std::nullopt);
 
     // Writes leave the file and the lock writers share behind: no temporary files.
-    EXPECT_EQ(filesIn(tempHome.configHome() + "/mopwell"),
+    EXPECT_EQ(namesIn(tempHome.configHome() + "/mopwell"),
               (std::vector<std::string>{"defaults.plist", "defaults.plist.lock"}));
 }
 
 TEST_F(TempHomeTest, LenientBooleanReadsFollowTheStoredValue)
 {
     DefaultsStore store(tempHome.root() + "/d.plist");
-    store.set("yes", std::string("YES"));
-    store.set("one", std::string(" 01"));
-    store.set("no", std::string("nope"));
-    store.set("number", std::int64_t{7});
-    store.set("zero", 0.0);
-    EXPECT_TRUE(store.boolValue("yes"));
-    EXPECT_TRUE(store.boolValue("one"));
-    EXPECT_FALSE(store.boolValue("no"));
-    EXPECT_TRUE(store.boolValue("number"));
-    EXPECT_FALSE(store.boolValue("zero"));
+    const std::vector<std::pair<DefaultsStore::Value, bool>> cases = {
+        {std::string("YES"), true}, {std::string(" 01"), true}, {std::string("nope"), false},
+        {std::int64_t{7}, true},    {0.0, false},
+    };
+    for (const auto& [value, expected] : cases) {
+        store.set("key", value);
+        EXPECT_EQ(store.boolValue("key"), expected);
+    }
     EXPECT_FALSE(store.boolValue("missing"));
 }
 
@@ -124,25 +111,20 @@ TEST_F(TempHomeTest, BinaryPropertyListsAreRead)
     EXPECT_EQ(DefaultsStore(path).number("refreshInterval"), 7.5);
 }
 
-TEST_F(TempHomeTest, ADamagedFileIsSetAsideAndTheStoreStartsEmpty)
+TEST_F(TempHomeTest, ADamagedFileOrOneThatIsNotADictionaryIsSetAsideAndTheStoreStartsEmpty)
 {
     const std::string path = tempHome.root() + "/defaults.plist";
-    std::ofstream(path) << "<plist><dict><key>half";
-    DefaultsStore store(path);
-    EXPECT_FALSE(store.contains("half"));
-    ASSERT_TRUE(store.setAsidePath().has_value());
-    EXPECT_EQ(readText(*store.setAsidePath()), "<plist><dict><key>half");
+    for (const char* text : {"<plist><dict><key>half", R"(<plist version="1.0"><array><string>x</string></array></plist>)"}) {
+        std::ofstream(path) << text;
+        DefaultsStore store(path);
+        EXPECT_FALSE(store.contains("half"));
+        ASSERT_TRUE(store.setAsidePath().has_value());
+        EXPECT_EQ(contentsOf(*store.setAsidePath()), text);
 
-    store.set("refreshInterval", 3.0);
-    EXPECT_EQ(DefaultsStore(path).number("refreshInterval"), 3.0);
-    EXPECT_EQ(DefaultsStore(path).setAsidePath(), std::nullopt);
-}
-
-TEST_F(TempHomeTest, AFileThatIsNotADictionaryIsSetAside)
-{
-    const std::string arrayPath = tempHome.root() + "/array.plist";
-    std::ofstream(arrayPath) << R"(<plist version="1.0"><array><string>x</string></array></plist>)";
-    EXPECT_TRUE(DefaultsStore(arrayPath).setAsidePath().has_value());
+        store.set("refreshInterval", 3.0);
+        EXPECT_EQ(DefaultsStore(path).number("refreshInterval"), 3.0);
+        EXPECT_EQ(DefaultsStore(path).setAsidePath(), std::nullopt);
+    }
 }
 
 TEST_F(TempHomeTest, AFileThatCannotBeOpenedIsLeftAloneAndTriedAgainAtTheNextWrite)
@@ -157,7 +139,7 @@ TEST_F(TempHomeTest, AFileThatCannotBeOpenedIsLeftAloneAndTriedAgainAtTheNextWri
     }
     const auto size = fs::file_size(path);
     const auto movedAside = [&] {
-        const auto names = filesIn(tempHome.root());
+        const auto names = namesIn(tempHome.root());
         return std::any_of(names.begin(), names.end(), [](const std::string& name) {
             return name.find("unreadable") != std::string::npos || name.find("damaged") != std::string::npos;
         });

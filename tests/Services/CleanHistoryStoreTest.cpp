@@ -81,39 +81,31 @@ TEST_F(CleanHistoryStoreTest, OnlyTheFiftyNewestAreStored)
     EXPECT_EQ(loaded.history.back().id, history[49].id);
 }
 
-TEST_F(CleanHistoryStoreTest, OneMalformedRecordEmptiesTheWholeHistoryButNotTheTotal)
+TEST_F(CleanHistoryStoreTest, AHistoryThatIsNotAJsonArrayOfGoodRecordsInDataReadsEmptyButKeepsTheTotal)
 {
     const std::string good = storedRecordText("E621E1F8-C36C-495A-93FC-0C247A3E6E5F");
-    defaults.set(CleanHistoryStore::totalKey, std::int64_t{42});
-    defaults.set(CleanHistoryStore::historyKey, bytes("[" + good + "]"));
+    const std::string valid = "[" + good + "]";
+    defaults.set(CleanHistoryStore::totalKey, std::int64_t{9});
+    defaults.set(CleanHistoryStore::historyKey, bytes(valid));
     ASSERT_EQ(CleanHistoryStore::load(defaults).history.size(), 1u);
 
+    // One malformed record among good ones empties the whole history.
     json missingKey = json::parse(good);
     missingKey.erase("trashed");
     json wrongType = json::parse(good);
     wrongType["freed"] = "1";
-    for (const std::string& bad : {missingKey.dump(), wrongType.dump(), storedRecordText("E621E1F8-C36C-495A")}) {
-        defaults.set(CleanHistoryStore::historyKey, bytes("[" + good + "," + bad + "]"));
-        const auto loaded = CleanHistoryStore::load(defaults);
-        EXPECT_TRUE(loaded.history.empty()) << bad;
-        EXPECT_EQ(loaded.total, 42);
-    }
-}
-
-TEST_F(CleanHistoryStoreTest, AHistoryThatIsNotAJsonArrayInDataReadsEmpty)
-{
-    const std::string valid = "[" + storedRecordText("E621E1F8-C36C-495A-93FC-0C247A3E6E5F") + "]";
     const std::vector<DefaultsStore::Value> unusable = {
         valid,  // the right text, but as a string rather than data
         bytes("not json"), bytes(valid.substr(0, valid.size() - 1)),
-        bytes(storedRecordText("E621E1F8-C36C-495A-93FC-0C247A3E6E5F")),  // a record, not an array
+        bytes(good),  // a record, not an array
         bytes("[\"Trash\"]"), bytes("[{\"targetName\": \"\xff\"}]"), std::int64_t{5},
+        bytes("[" + good + "," + missingKey.dump() + "]"), bytes("[" + good + "," + wrongType.dump() + "]"),
+        bytes("[" + good + "," + storedRecordText("E621E1F8-C36C-495A") + "]"),
     };
-    defaults.set(CleanHistoryStore::totalKey, std::int64_t{9});
-    for (const auto& value : unusable) {
-        defaults.set(CleanHistoryStore::historyKey, value);
+    for (std::size_t i = 0; i < unusable.size(); ++i) {
+        defaults.set(CleanHistoryStore::historyKey, unusable[i]);
         const auto loaded = CleanHistoryStore::load(defaults);
-        EXPECT_TRUE(loaded.history.empty());
+        EXPECT_TRUE(loaded.history.empty()) << "case " << i;
         EXPECT_EQ(loaded.total, 9);
     }
 }
