@@ -1,4 +1,5 @@
 #include "Models/CleanupCatalog.h"
+#include "Support/CatalogRows.h"
 #include "Support/TempHome.h"
 
 #include <gmock/gmock.h>
@@ -8,21 +9,11 @@ using ::testing::ElementsAreArray;
 
 namespace {
 
-CleanupTarget builtIn(const std::string& id, PlatformProfile profile = PlatformProfile::macOS)
-{
-    for (const auto& target : CleanupCatalog::builtIn(profile)) {
-        if (target.id == id)
-            return target;
-    }
-    throw std::out_of_range(id);
-}
+using CatalogRows::idsOf;
 
-std::vector<std::string> idsOf(const std::vector<CleanupTarget>& targets)
+CleanupTarget builtIn(const std::string& id)
 {
-    std::vector<std::string> ids;
-    for (const auto& target : targets)
-        ids.push_back(target.id);
-    return ids;
+    return CatalogRows::builtIn(id, PlatformProfile::macOS);
 }
 
 CleanupKind paths(std::vector<std::string> list)
@@ -118,7 +109,6 @@ TEST(CleanupCatalog, FinderTargetsCopyTheirArgumentsIntoEveryRow)
         EXPECT_EQ(kind.ignore, ignore);
         EXPECT_EQ(kind.minAgeDays, 30);
         EXPECT_EQ(target.category, CleanupCategory::buildArtifacts);
-        EXPECT_EQ(target.symbol, "shippingbox.fill");
     }
     const auto& venv = std::get<FinderKind>(finders[4].kind);
     EXPECT_THAT(venv.names, ElementsAre(".venv", "venv"));
@@ -169,10 +159,7 @@ TEST(CleanupCatalog, CustomFolderTargetIsNamedAfterItsLastComponent)
     const auto target = CleanupTarget::customFolder("/Users/a/Movies/Old");
     EXPECT_EQ(target.id, "custom:/Users/a/Movies/Old");
     EXPECT_EQ(target.name, "Old");
-    EXPECT_EQ(target.symbol, "folder.fill");
-    EXPECT_EQ(target.detail, "/Users/a/Movies/Old");
     EXPECT_EQ(target.kind, CleanupKind(PathsKind{{"/Users/a/Movies/Old"}}));
-    EXPECT_EQ(target.category, CleanupCategory::custom);
     EXPECT_FALSE(target.isBuiltIn);
 
     EXPECT_EQ(CleanupTarget::customFolder("/").name, "/");

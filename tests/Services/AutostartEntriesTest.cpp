@@ -6,10 +6,6 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
-
-namespace fs = std::filesystem;
-
 namespace {
 
 class AutostartEntriesTest : public TempHomeTest {
@@ -40,23 +36,6 @@ TEST_F(AutostartEntriesTest, ListsEntriesWithTheirNameAndProgram)
                                                   "Syncthing | /opt/sync thing/run | on",
                                                   "Old | old | off",
                                               }));
-}
-
-TEST_F(AutostartEntriesTest, SwitchingOffMovesTheEntryAsideAndBack)
-{
-    const std::string text = "[Desktop Entry]\nName=Sync\nExec=sync\n";
-    const std::string live = entry("sync.desktop", text);
-    const std::string off = AutostartEntries::disabledFolder() + "/sync.desktop";
-    ASSERT_FALSE(fs::exists(AutostartEntries::disabledFolder()));
-
-    ASSERT_TRUE(AutostartEntries::setEnabled(false, AutostartEntries::list().front()));
-    EXPECT_FALSE(fs::exists(live));
-    EXPECT_EQ(AtomicFile::read(off).contents, text);
-    EXPECT_FALSE(AutostartEntries::list().front().enabled);
-
-    ASSERT_TRUE(AutostartEntries::setEnabled(true, AutostartEntries::list().front()));
-    EXPECT_FALSE(fs::exists(off));
-    EXPECT_EQ(AtomicFile::read(live).contents, text);
 }
 
 TEST_F(AutostartEntriesTest, NeverOverwritesAnEntryOfTheSameName)

@@ -40,13 +40,9 @@ protected:
 
 }  // namespace
 
-TEST_F(LaunchAgentManagerTest, AFolderThatDoesNotExistListsNothing)
-{
-    EXPECT_TRUE(LaunchAgentManager::list().empty());
-}
-
 TEST_F(LaunchAgentManagerTest, ListsLiveThenSwitchedOffAgentsEachSortedByLabel)
 {
+    EXPECT_TRUE(LaunchAgentManager::list().empty());  // no folder yet
     agent("com.b.plist", plist("<key>Label</key><string>beta</string><key>Program</key><string>/opt/b</string>"));
     agent("com.a.plist", plist("<key>Label</key><string>Alpha</string><key>ProgramArguments</key>"
                                "<array><string>/opt/a</string><string>--now</string></array>"));

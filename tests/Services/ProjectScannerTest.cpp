@@ -17,6 +17,7 @@ namespace {
 // What the callbacks saw, in the order they came.
 struct Recorder {
     std::vector<std::string> events;
+    std::vector<ProjectDir> announced;
     std::vector<ProjectDir> found;
 
     void scan(const std::vector<std::string>& ignore, const std::shared_ptr<CancelToken>& token,
@@ -29,13 +30,17 @@ struct Recorder {
                 found.push_back(dir);
                 if (afterFound)
                     afterFound();
+            },
+            [&](const std::vector<ProjectDir>& dirs) {
+                events.push_back("discovered " + std::to_string(dirs.size()));
+                announced = dirs;
             });
     }
 };
 
 }  // namespace
 
-TEST_F(ProjectScannerTest, EachFolderIsMeasuredStampedAndReportedAfterItsProgress)
+TEST_F(ProjectScannerTest, EveryFolderIsAnnouncedThenMeasuredStampedAndReportedAfterItsProgress)
 {
     tempHome.writeFile("Code/app/package.json");
     tempHome.writeFile("Code/app/node_modules/lib/index.js", std::string(20000, 'x'));
@@ -47,15 +52,21 @@ TEST_F(ProjectScannerTest, EachFolderIsMeasuredStampedAndReportedAfterItsProgres
     Recorder recorder;
     recorder.scan({"~/Code/skip"}, std::make_shared<CancelToken>());
 
-    EXPECT_THAT(recorder.events, ElementsAre("progress 1", "found", "progress 2", "found"));
+    EXPECT_THAT(recorder.events, ElementsAre("discovered 2", "progress 1", "found", "progress 2", "found"));
     const std::string modules = tempHome.home() + "/Code/app/node_modules";
     const std::string target = tempHome.home() + "/Code/rs/target";
     std::map<std::string, std::string> kinds;
-    for (const auto& dir : recorder.found) {
+    ASSERT_EQ(recorder.announced.size(), 2u);
+    for (std::size_t i = 0; i < recorder.found.size(); ++i) {
+        const ProjectDir& dir = recorder.found[i];
         kinds[dir.path] = dir.kindID + " " + dir.kindLabel + " " + dir.symbol;
         EXPECT_EQ(dir.size, Scanner::directorySize(dir.path));
         EXPECT_GT(dir.size, 0);
         EXPECT_EQ(dir.modified, FileSystem::info(dir.path)->modified);
+        // Announced in the order they are measured, dated but not yet sized.
+        EXPECT_EQ(recorder.announced[i].path, dir.path);
+        EXPECT_EQ(recorder.announced[i].size, 0);
+        EXPECT_EQ(recorder.announced[i].modified, dir.modified);
     }
     EXPECT_THAT(kinds, UnorderedElementsAre(Pair(modules, "node_modules node_modules shippingbox.fill"),
                                             Pair(target, "target target shippingbox.fill")));
@@ -71,8 +82,9 @@ TEST_F(ProjectScannerTest, ACancelledTokenStopsBeforeTheNextFolder)
     auto token = std::make_shared<CancelToken>();
     Recorder cancelledInside;
     cancelledInside.scan({}, token, [&] { token->cancel(); });
-    EXPECT_THAT(cancelledInside.events, ElementsAre("progress 1", "found"));
+    EXPECT_THAT(cancelledInside.events, ElementsAre("discovered 3", "progress 1", "found"));
 
+    // Cancelled before measuring: nothing is announced either.
     Recorder cancelledBefore;
     cancelledBefore.scan({}, token);
     EXPECT_TRUE(cancelledBefore.events.empty());
@@ -80,43 +92,4 @@ TEST_F(ProjectScannerTest, ACancelledTokenStopsBeforeTheNextFolder)
     Recorder uncancelled;
     uncancelled.scan({}, std::make_shared<CancelToken>());
     EXPECT_EQ(uncancelled.found.size(), 3u);
-}
-
-TEST_F(ProjectScannerTest, EveryFolderIsAnnouncedOnceBeforeTheFirstIsMeasured)
-{
-    tempHome.writeFile("Code/app/package.json");
-    tempHome.writeFile("Code/app/node_modules/lib/index.js", std::string(20000, 'x'));
-    tempHome.writeFile("Code/rs/Cargo.toml");
-    tempHome.makeFolder("Code/rs/target");
-
-    std::vector<std::string> events;
-    std::vector<ProjectDir> announced;
-    std::vector<std::string> measuredOrder;
-    const auto scan = [&](const std::shared_ptr<CancelToken>& token) {
-        ProjectScanner::scan(
-            {"~/Code"}, {}, 0, token, [&](int) { events.push_back("progress"); },
-            [&](const ProjectDir& dir) {
-                events.push_back("found");
-                measuredOrder.push_back(dir.path);
-            },
-            [&](const std::vector<ProjectDir>& dirs) {
-                events.push_back("discovered " + std::to_string(dirs.size()));
-                announced = dirs;
-            });
-    };
-    scan(std::make_shared<CancelToken>());
-    EXPECT_THAT(events, ElementsAre("discovered 2", "progress", "found", "progress", "found"));
-    ASSERT_EQ(announced.size(), 2u);
-    for (std::size_t i = 0; i < announced.size(); ++i) {
-        EXPECT_EQ(announced[i].path, measuredOrder[i]);
-        EXPECT_EQ(announced[i].size, 0);
-        EXPECT_EQ(announced[i].modified, FileSystem::info(announced[i].path)->modified);
-    }
-
-    // A scan cancelled before measuring announces nothing either.
-    events.clear();
-    auto cancelled = std::make_shared<CancelToken>();
-    cancelled->cancel();
-    scan(cancelled);
-    EXPECT_TRUE(events.empty());
 }

@@ -3,6 +3,7 @@
 #include "Services/Scanner.h"
 #include "Services/Uninstaller.h"
 #include "Support/TempHome.h"
+#include "Support/ToolStubs.h"
 #include "Support/TreeBuilder.h"
 
 #include <gtest/gtest.h>
@@ -10,7 +11,6 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <sstream>
 #include <unistd.h>
 #include <utility>
 
@@ -202,44 +202,27 @@ TEST_F(UninstallerLinux, RefusesWhatLiesOutsideTheHomeIsntTheUsersOrIsASharedFol
     EXPECT_FALSE(Uninstaller::isProtectedSystemApp(photoTool, linux));
 }
 
-TEST_F(UninstallerLinux, RemovesAFlatpakThroughTheToolAndItsDataThroughTheTrash)
+TEST_F(UninstallerLinux, AFlatpakGoesThroughTheToolAndItsDataThroughTheTrashElseNothingIsFreed)
 {
-    // A stand-in flatpak on the search path that records its arguments and removes the app.
-    const std::string bin = tempHome.makeFolder("stub-bin");
-    const std::string record = tempHome.root() + "/flatpak-arguments";
-    tempHome.writeFile("stub-bin/flatpak", "#!/bin/sh\nprintf '%s\\n' \"$@\" > '" + record + "'\nrm -rf '" + paint + "'\n");
-    fs::permissions(bin + "/flatpak", fs::perms::owner_all);
-    const char* savedPath = std::getenv("PATH");
-    const std::string oldPath = savedPath ? savedPath : "";
-    setenv("PATH", (bin + ":" + oldPath).c_str(), 1);
-
+    ToolStubs stubs{tempHome.root() + "/stubs", H};
+    stubs.install("flatpak", "rm -rf '" + paint + "'");
     const std::string data = H + "/.var/app/org.example.Paint";
     const std::int64_t expected = Scanner::directorySize(paint) + Scanner::directorySize(data);
     const auto result = Uninstaller::remove({paint, data, H + "/.config", tempHome.root() + "/outside"}, linux);
-    setenv("PATH", oldPath.c_str(), 1);
 
-    std::stringstream arguments;
-    arguments << std::ifstream(record).rdbuf();
-    EXPECT_EQ(arguments.str(), "uninstall\n--user\n--noninteractive\norg.example.Paint\n");
+    EXPECT_EQ(stubs.calls("flatpak"), std::vector<std::string>{"[uninstall][--user][--noninteractive][org.example.Paint]"});
     EXPECT_EQ(result.freed, expected);
     ASSERT_EQ(result.trashed.size(), 1u);
     EXPECT_EQ(result.trashed[0].original, data);
     EXPECT_TRUE(Trash::putBack(result.trashed[0].trashPath, data));
     EXPECT_TRUE(fs::exists(H + "/.config/phototool"));
-}
 
-TEST_F(UninstallerLinux, AFlatpakToolThatFailsOrIsMissingFreesNothing)
-{
-    const std::string bin = tempHome.makeFolder("stub-bin");
-    tempHome.writeFile("stub-bin/flatpak", "#!/bin/sh\necho 'error: app is running' >&2\nexit 1\n");
-    fs::permissions(bin + "/flatpak", fs::perms::owner_all);
-    const char* savedPath = std::getenv("PATH");
-    const std::string oldPath = savedPath ? savedPath : "";
-    for (const std::string& path : {bin, tempHome.makeFolder("empty-bin")}) {
-        setenv("PATH", path.c_str(), 1);
-        const auto result = Uninstaller::remove({paint}, linux);
-        EXPECT_EQ(result, Uninstaller::RemoveResult{}) << path;
-    }
-    setenv("PATH", oldPath.c_str(), 1);
+    // A tool that fails (the app is running), or none at all: the app stays and nothing is freed.
+    TreeBuilder::writeFile(paint + "/current/active/files/bin/paint", 90'000);
+    stubs.install("flatpak", "echo 'error: app is running' >&2; exit 1");
+    EXPECT_EQ(Uninstaller::remove({paint}, linux), Uninstaller::RemoveResult{});
+    stubs.clear();
+    setenv("PATH", stubs.folder().c_str(), 1);  // restored when the stubs go
+    EXPECT_EQ(Uninstaller::remove({paint}, linux), Uninstaller::RemoveResult{});
     EXPECT_TRUE(fs::exists(paint));
 }
