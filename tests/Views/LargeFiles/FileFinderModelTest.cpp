@@ -116,28 +116,6 @@ TEST_F(FileFinderModelTest, AStopReturnsToNothingScannedAndDropsLateResults)
     EXPECT_EQ(finder.largestRows()->count(), 100);
 }
 
-TEST_F(FileFinderModelTest, TrashingMovesTheTickedCopiesRecordsThemAndScansAgain)
-{
-    const std::string bytes(1'500'000, 'z');
-    const std::string kept = tempHome.writeFile("Films/film.mov", bytes);
-    const std::string copy = tempHome.writeFile("Films/Backup/film.mov", bytes);
-    tempHome.writeFile("Films/other.mov", std::string(1'100'000, 'o'));
-    scanAndWait(tempHome.home() + "/Films");
-    ASSERT_EQ(finder.selectedCount(), 1);
-    const std::string ticked = *finder.selected().begin();
-    const std::string untouched = ticked == copy ? kept : copy;
-
-    trashAndWait();
-    EXPECT_FALSE(fs::exists(ticked));
-    EXPECT_TRUE(fs::exists(untouched));
-    ASSERT_EQ(model->history().size(), 1u);
-    EXPECT_EQ(model->history()[0].targetName, "1 file (duplicate/large)");
-    ASSERT_TRUE(model->history()[0].items);
-    EXPECT_EQ(model->history()[0].items->at(0).original, ticked);
-    EXPECT_EQ(finder.largestRows()->count(), 2);  // scanned again
-    EXPECT_TRUE(finder.selected().empty());
-}
-
 TEST_F(FileFinderModelTest, AKeptCopyChangedSinceTheScanSavesItsTwin)
 {
     const std::string bytes(1'500'000, 'z');

@@ -72,6 +72,7 @@ TEST_F(TrashSelectionJobTest, ACopyGoesOnlyWhileAVerifiedCopyStays)
         EXPECT_EQ(outcome.trashed.size(), test.copiesGo ? 2u : 0u) << test.what;
         EXPECT_EQ(outcome.keptAsLastCopy.size(), test.copiesGo ? 0u : ticked.size()) << test.what;
         if (test.copiesGo) {
+            EXPECT_TRUE(fs::exists(kept));
             EXPECT_EQ(outcome.freed, 2 * group.size);
             EXPECT_EQ(outcome.trashed[0].original, group.files[1].path);
             EXPECT_TRUE(fs::exists(outcome.trashed[0].trashPath));

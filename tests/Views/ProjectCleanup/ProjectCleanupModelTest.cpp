@@ -4,6 +4,7 @@
 
 #include "Platform/Paths.h"
 #include "Support/ModelFixture.h"
+#include "Support/PathsOf.h"
 
 #include <gmock/gmock.h>
 
@@ -32,22 +33,6 @@ ProjectDir folder(const std::string& path, std::int64_t size, std::optional<Cloc
                   const std::string& kind = "node_modules")
 {
     return {path, kind, kind == "target" ? "target" : "node_modules", "shippingbox.fill", size, modified};
-}
-
-std::vector<std::string> pathsOf(const std::vector<ProjectDir>& dirs)
-{
-    std::vector<std::string> paths;
-    for (const ProjectDir& dir : dirs)
-        paths.push_back(dir.path);
-    return paths;
-}
-
-std::vector<std::string> pathsOf(const std::vector<ProjectGroup>& groups)
-{
-    std::vector<std::string> paths;
-    for (const ProjectGroup& group : groups)
-        paths.push_back(group.path);
-    return paths;
 }
 
 class ProjectCleanupModelTest : public ModelFixture {
@@ -92,26 +77,6 @@ TEST_F(ProjectCleanupModelTest, SortsBiggestOrOldestFirstUndatedLastAndTiesAsFou
     EXPECT_EQ(cleanup.projectGroups()[3].oldest(), std::nullopt);
 }
 
-TEST_F(ProjectCleanupModelTest, TheFilterNarrowsTheListButNeverTheKindsOffered)
-{
-    add(folder("/w/a/node_modules", 10, daysAgo(1)));
-    add(folder("/w/a/target", 20, daysAgo(1), "target"));
-    add(folder("/w/b/node_modules", 30, daysAgo(1)));
-    const std::vector<ProjectCleanupModel::KindFacet> all = {{"node_modules", "node_modules", 2}, {"target", "target", 1}};
-    EXPECT_EQ(cleanup.kindFacets(), all);
-
-    cleanup.toggleKind("target");
-    EXPECT_THAT(pathsOf(cleanup.sortedDirs()), ElementsAre("/w/a/target"));
-    EXPECT_EQ(cleanup.kindFacets(), all);
-    EXPECT_EQ(cleanup.kindFacetList()[1].toMap()["active"], true);
-    EXPECT_EQ(cleanup.visibleCount(), 1);
-    EXPECT_EQ(cleanup.visibleSize(), 20);
-
-    cleanup.toggleKind("target");
-    EXPECT_TRUE(cleanup.activeKinds().empty());
-    EXPECT_EQ(cleanup.sortedDirs().size(), 3u);
-}
-
 TEST_F(ProjectCleanupModelTest, TicksHiddenByTheFilterStayButCountForNothing)
 {
     add(folder("/w/a/node_modules", 10, daysAgo(1)));
@@ -151,30 +116,6 @@ TEST_F(ProjectCleanupModelTest, AFolderStillBeingMeasuredCantBeTicked)
 
     cleanup.selectAll(true);
     EXPECT_THAT(cleanup.selected(), ElementsAre("/w/a/node_modules"));
-}
-
-TEST_F(ProjectCleanupModelTest, TheGroupedListHeadsEachProjectWithItsTotalAndTicks)
-{
-    cleanup.setGroupByProject(true);
-    add(folder("/w/a/node_modules", 10, daysAgo(1)));
-    add(folder("/w/a/target", 20, daysAgo(1), "target"));
-    add(folder("/w/b/node_modules", 5, daysAgo(1)));
-    cleanup.toggle("/w/a/target");
-
-    std::vector<std::string> keys;
-    for (const ProjectListModel::Row& row : cleanup.rows()->rows())
-        keys.push_back(row.key);
-    EXPECT_THAT(keys, ElementsAre("g/w/a", "d/w/a/target", "d/w/a/node_modules", "g/w/b", "d/w/b/node_modules"));
-    const ProjectListModel::Row& header = cleanup.rows()->rows().front();
-    EXPECT_EQ(header.size, 30);
-    EXPECT_EQ(header.count, 2);
-    EXPECT_FALSE(header.selected);
-
-    cleanup.toggleRow(0);  // the header ticks the rest of its project
-    EXPECT_THAT(cleanup.selected(), ElementsAre("/w/a/node_modules", "/w/a/target"));
-    EXPECT_TRUE(cleanup.rows()->rows().front().selected);
-    cleanup.toggleRow(0);
-    EXPECT_TRUE(cleanup.selected().empty());
 }
 
 TEST_F(ProjectCleanupModelTest, TheRootsComeFromTheChosenFolderElseTheSettingsElseHome)

@@ -59,24 +59,6 @@ const std::vector<LocalSnapshot> three = {LocalSnapshot::timeMachine("c", "2024-
 
 }  // namespace
 
-TEST_F(SnapshotsModelTest, KeepingTheNewestLeavesItOutOfTheRemoval)
-{
-    load({three[0]});
-    EXPECT_EQ(model.deletableCount(), 0);
-    EXPECT_EQ(model.actionTitle(), "Free Up Space");
-    model.reclaim();
-    EXPECT_FALSE(model.isWorking());
-    model.setKeepNewest(false);
-    EXPECT_EQ(model.actionTitle(), "Free Up Space (1)");
-
-    load(three);
-    model.setKeepNewest(true);
-    EXPECT_EQ(model.actionTitle(), "Free Up Space (2)");
-    EXPECT_EQ(model.purgeable(), 3000);
-    reclaimAndWait();
-    EXPECT_EQ(system->removed, (std::vector<LocalSnapshot>{three[1], three[2]}));
-}
-
 TEST_F(SnapshotsModelTest, SaysHowTheRemovalEndedAndReadsTheListAgain)
 {
     struct Case {

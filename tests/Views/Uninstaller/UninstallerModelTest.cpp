@@ -4,7 +4,6 @@
 #include "Support/TreeBuilder.h"
 
 #include <QSignalSpy>
-#include <QTest>
 
 #include <filesystem>
 
@@ -50,29 +49,6 @@ protected:
 };
 
 }  // namespace
-
-TEST_F(UninstallerModelTest, LoadingChoosesEverythingFoundAndSelectAllSwitchesBothWays)
-{
-    const std::string app = bundle("Apps/Tool.app", "com.x.tool");
-    TreeBuilder::writeFile(H + "/Library/Caches/com.x.tool/c", 8'000);
-    loadAndWait(app);
-    ASSERT_TRUE(uninstaller.app());
-    EXPECT_EQ(uninstaller.app()->bundleID, "com.x.tool");
-    ASSERT_EQ(uninstaller.itemCount(), 2);
-    EXPECT_EQ(uninstaller.selectedCount(), 2);
-    EXPECT_TRUE(uninstaller.allSelected());
-    EXPECT_EQ(uninstaller.totalSelectedSize(), uninstaller.items()[0].size + uninstaller.items()[1].size);
-
-    uninstaller.toggleSelectAll();
-    EXPECT_EQ(uninstaller.selectedCount(), 0);
-    EXPECT_EQ(uninstaller.totalSelectedSize(), 0);
-    uninstaller.toggle(item("App cache").id);
-    EXPECT_FALSE(uninstaller.allSelected());
-    uninstaller.toggleSelectAll();
-    EXPECT_TRUE(uninstaller.allSelected());
-    uninstaller.toggleItem(QStringLiteral("not-an-id"));
-    EXPECT_EQ(uninstaller.selectedCount(), 2);
-}
 
 TEST_F(UninstallerModelTest, RefusesTheProtectedPathsAndChangesNothingElse)
 {
@@ -130,27 +106,4 @@ TEST_F(UninstallerModelTest, NothingChosenDoesNothingAndNothingMovedSaysSo)
     EXPECT_EQ(uninstaller.resultMessage(), "Couldn't remove Tool.");
     EXPECT_FALSE(uninstaller.app());
     EXPECT_TRUE(model->history().empty());
-}
-
-TEST_F(UninstallerModelTest, AResultClearsAfterItsLifetimeButANewerMessageStays)
-{
-    uninstaller.setMessageLifetime(150);
-    TreeBuilder::writeFile(H + "/Library/Caches/com.x.a/c", 8'000);
-    loadAndWait(bundle("A.app", "com.x.a"));
-    uninstallAndWait();
-    const QString first = uninstaller.resultMessage();
-    ASSERT_TRUE(first.startsWith("Removed A"));
-    loadAndWait(bundle("B.app", "com.x.b"));
-    uninstallAndWait();  // a second result within the first one's lifetime
-    const QString second = uninstaller.resultMessage();
-    ASSERT_TRUE(second.startsWith("Removed B"));
-    QTest::qWait(100);
-    uninstaller.load(std::string("/System/Thing.app"));
-    const QString refusal = uninstaller.resultMessage();
-    QTest::qWait(250);  // both results' timers have fired
-    EXPECT_EQ(uninstaller.resultMessage(), refusal);
-
-    loadAndWait(bundle("C.app", "com.x.c"));
-    uninstallAndWait();
-    EXPECT_TRUE(waitUntil([&] { return !uninstaller.optionalResultMessage(); }, 2'000));
 }
