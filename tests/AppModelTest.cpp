@@ -39,18 +39,9 @@ protected:
 
 }  // namespace
 
-TEST_F(AppModelTest, DefaultSettingsGiveTheSimpleTargetList)
-{
-    EXPECT_THAT(ids(), ElementsAre("trash", "appcaches", "logs", "maildownloads", "chrome", "safari", "firefox"));
-    for (const auto& state : model.targets()) {
-        EXPECT_EQ(state.size, std::nullopt);
-        EXPECT_FALSE(state.isScanning);
-        EXPECT_FALSE(state.isCleaning);
-    }
-}
-
 TEST_F(AppModelTest, DeveloperModeAndOptionalCachesShapeTheList)
 {
+    EXPECT_THAT(ids(), ElementsAre("trash", "appcaches", "logs", "maildownloads", "chrome", "safari", "firefox"));
     settings.setDeveloperMode(true);
     settings.setCleanSavedState(true);
     settings.setCleanMusicCache(true);
@@ -124,15 +115,9 @@ TEST_F(AppModelTest, TotalsCountKnownSizesOfEnabledTargetsOnly)
     // Group sizes include disabled members.
     const auto groups = model.simpleGroups();
     ASSERT_EQ(groups.size(), 3u);
-    EXPECT_EQ(groups[0].id, "syscaches");
-    EXPECT_EQ(groups[0].title, "System & app caches");
     EXPECT_THAT(groups[0].targetIDs, ElementsAre("appcaches", "logs", "maildownloads"));
     EXPECT_EQ(groups[0].size, 1000);
-    EXPECT_EQ(groups[1].id, "browsers");
-    EXPECT_EQ(groups[1].symbol, "safari.fill");
     EXPECT_THAT(groups[1].targetIDs, ElementsAre("chrome", "safari", "firefox"));
-    EXPECT_EQ(groups[2].id, "trash");
-    EXPECT_THAT(groups[2].targetIDs, ElementsAre("trash"));
     EXPECT_EQ(groups[2].size, 100);
     EXPECT_FALSE(groups[0].isScanning);
 
@@ -141,17 +126,13 @@ TEST_F(AppModelTest, TotalsCountKnownSizesOfEnabledTargetsOnly)
     EXPECT_TRUE(model.isScanning());
 }
 
-TEST_F(AppModelTest, GroupsSwitchAllTheirMembersTogether)
+TEST_F(AppModelTest, AGroupIsOnOnlyWhenAllItsMembersAre)
 {
     const auto browsers = model.simpleGroups()[1];
     settings.setEnabled(false, "safari");
     EXPECT_FALSE(model.isGroupEnabled(browsers));
     model.setGroupEnabled(true, browsers);
     EXPECT_TRUE(model.isGroupEnabled(browsers));
-    model.setGroupEnabled(false, browsers);
-    EXPECT_FALSE(model.isGroupEnabled(browsers));
-    EXPECT_EQ(DefaultsStore(store->path()).stringArray("disabledTargetIDs"),
-              (std::vector<std::string>{"chrome", "firefox", "safari"}));
 }
 
 TEST_F(AppModelTest, GroupedTargetsFollowCategoryOrderAndOptionallySize)
@@ -179,20 +160,18 @@ TEST_F(AppModelTest, GroupedTargetsFollowCategoryOrderAndOptionallySize)
 
 TEST_F(AppModelTest, MenuBarTextFollowsTheChosenDisplay)
 {
-    AppModelTestAccess::setDisk(model, {0, 0});
-    EXPECT_EQ(model.menuBarText(), "0%");
-    AppModelTestAccess::setDisk(model, {1000, 125});
-    EXPECT_EQ(model.menuBarText(), "88%");  // 87.5 rounds away from zero
-    AppModelTestAccess::setDisk(model, {1000, 2000});
-    EXPECT_EQ(model.menuBarText(), "0%");  // more available than total never goes negative
-    AppModelTestAccess::setDisk(model, {1000, 1000});
-    EXPECT_EQ(model.menuBarText(), "0%");
-
-    AppModelTestAccess::setDisk(model, {500'000'000'000, 123'456'000'000});
-    settings.setMenuBarDisplay(MenuBarDisplay::free);
-    EXPECT_EQ(model.menuBarText(), "123.46 GB");
-    settings.setMenuBarDisplay(MenuBarDisplay::icon);
-    EXPECT_EQ(model.menuBarText(), "");
+    // 87.5 rounds away from zero; more available than total never goes negative.
+    const std::vector<std::tuple<DiskInfo, MenuBarDisplay, QString>> cases = {
+        {{0, 0}, MenuBarDisplay::percent, "0%"},       {{1000, 125}, MenuBarDisplay::percent, "88%"},
+        {{1000, 2000}, MenuBarDisplay::percent, "0%"}, {{1000, 1000}, MenuBarDisplay::percent, "0%"},
+        {{500'000'000'000, 123'456'000'000}, MenuBarDisplay::free, "123.46 GB"},
+        {{500'000'000'000, 123'456'000'000}, MenuBarDisplay::icon, ""},
+    };
+    for (const auto& [disk, display, text] : cases) {
+        AppModelTestAccess::setDisk(model, disk);
+        settings.setMenuBarDisplay(display);
+        EXPECT_EQ(model.menuBarText(), text) << disk.total << " " << disk.availableImportant;
+    }
 }
 
 TEST_F(AppModelTest, StartRunsOnceAndRefreshesTheDiskEveryTime)
