@@ -42,14 +42,6 @@ protected:
     MopwellApp app{*model, {testView("PanelWindow.qml"), testWindows()}};
 };
 
-TEST_F(MopwellAppTest, RequestCleanAllPreparesTheCleanAndOpensTheConfirmation)
-{
-    app.notifications().post(AppNotifications::requestCleanAllName);
-    EXPECT_TRUE(model->hasPendingClean());
-    ASSERT_TRUE(confirmationShown());
-    EXPECT_TRUE(eventually([&] { return QGuiApplication::focusWindow() == confirmWindow(); }));
-}
-
 TEST_F(MopwellAppTest, OnlyALowSpaceTapAsksForTheConfirmation)
 {
     emit Notifier::center().responded(QStringLiteral("AUTOCLEANUP"), NotificationCenter::defaultActionIdentifier);
@@ -63,6 +55,8 @@ TEST_F(MopwellAppTest, OnlyALowSpaceTapAsksForTheConfirmation)
     EXPECT_TRUE(model->hasPendingClean());
 }
 
+// A request to clean everything, from the views or the status item's menu, prepares the clean and
+// brings the confirmation forward.
 TEST_F(MopwellAppTest, ViewsReachTheShellFromQml)
 {
     QQmlEngine engine;
@@ -73,16 +67,17 @@ TEST_F(MopwellAppTest, ViewsReachTheShellFromQml)
         import Mopwell
         QtObject {
             Component.onCompleted: {
-                Shell.post("mopwell.requestCleanAll")
                 Shell.openWindow("diskmap")
+                Shell.post("mopwell.requestCleanAll")
             }
         })",
                       QUrl());
     std::unique_ptr<QObject> object(component.create());
     ASSERT_TRUE(object) << component.errorString().toStdString();
     EXPECT_TRUE(model->hasPendingClean());
-    EXPECT_TRUE(confirmationShown());
+    ASSERT_TRUE(confirmationShown());
     EXPECT_NE(app.windows().window(QStringLiteral("diskmap")), nullptr);
+    EXPECT_TRUE(eventually([&] { return QGuiApplication::focusWindow() == confirmWindow(); }));
 
     Shell::instance().closeWindow(QStringLiteral("diskmap"));
     EXPECT_TRUE(eventually([&] { return !app.windows().window(QStringLiteral("diskmap")); }));

@@ -14,10 +14,13 @@ namespace {
 
 constexpr std::int64_t gigabyte = 1'000'000'000;
 
-class StatusItemTest : public ModelFixture {
+class StatusItemFixture : public ModelFixture {
 protected:
     void setAvailable(std::int64_t available) { AppModelTestAccess::setDisk(*model, {100 * gigabyte, available}); }
+};
 
+class StatusItemTest : public StatusItemFixture {
+protected:
     // True when some pixel right of the symbol's square is drawn.
     static bool drawsBesideTheSymbol(const QImage& image)
     {
@@ -34,26 +37,14 @@ protected:
     StatusItem item{*model, PlatformProfile::macOS};
 };
 
-TEST_F(StatusItemTest, WarningSymbolOnlyStrictlyBelowTheThreshold)
+TEST_F(StatusItemTest, TheWarningSymbolIsDrawnOnlyStrictlyBelowTheThreshold)
 {
     settings.setLowSpaceThresholdGB(10);
     setAvailable(10 * gigabyte);
-    EXPECT_EQ(item.symbol(), StatusItem::normalSymbol);
     const QImage plain = item.image();
-
     setAvailable(10 * gigabyte - 1);
     EXPECT_EQ(item.symbol(), StatusItem::lowSpaceSymbol);
     EXPECT_NE(item.image(), plain);
-
-    // A lower threshold is followed at once.
-    settings.setLowSpaceThresholdGB(5);
-    EXPECT_EQ(item.symbol(), StatusItem::normalSymbol);
-
-    // The warning doesn't depend on the text shown or on alerts being on.
-    settings.setMenuBarDisplay(MenuBarDisplay::icon);
-    settings.setLowSpaceAlertsEnabled(false);
-    setAvailable(gigabyte);
-    EXPECT_EQ(item.symbol(), StatusItem::lowSpaceSymbol);
 }
 
 TEST_F(StatusItemTest, TextIsDrawnBesideTheSymbolAndNothingForTheIconDisplay)
@@ -74,22 +65,9 @@ TEST_F(StatusItemTest, TextIsDrawnBesideTheSymbolAndNothingForTheIconDisplay)
     EXPECT_GT(item.image().width(), withText.width());
 }
 
-TEST_F(StatusItemTest, TooltipIsTheMenuBarTextAndFollowsTheModel)
-{
-    setAvailable(40 * gigabyte);
-    EXPECT_EQ(item.toolTip(), model->menuBarText());
-    EXPECT_EQ(item.toolTip(), QStringLiteral("60%"));
-    setAvailable(25 * gigabyte);
-    EXPECT_EQ(item.toolTip(), QStringLiteral("75%"));
-    settings.setMenuBarDisplay(MenuBarDisplay::icon);
-    EXPECT_EQ(item.toolTip(), QString());
-}
-
 // A Linux status area: a square slot, where the gauge stands in for the symbol and the text.
-class StatusGaugeTest : public ModelFixture {
+class StatusGaugeTest : public StatusItemFixture {
 protected:
-    void setAvailable(std::int64_t available) { AppModelTestAccess::setDisk(*model, {100 * gigabyte, available}); }
-
     // The pixel on the ring's centre line at `turn` (0 at the top, 0.5 at the bottom, clockwise).
     static QColor ringPixel(const QImage& image, int size, double turn)
     {
@@ -158,10 +136,12 @@ TEST_F(StatusGaugeTest, TheWarningSymbolSitsInTheRingOnlyStrictlyBelowTheThresho
     for (const int size : {16, 22, 24})
         EXPECT_GT(pixelsInTheHole(StatusItem::drawGauge(item.gauge(), size, 1.0), size), 3) << size << " px";
 
-    // Whatever the display setting, and whether or not alerts are on.
+    // Whatever the display setting, and whether or not alerts are on; a lower threshold at once.
     settings.setMenuBarDisplay(MenuBarDisplay::icon);
     settings.setLowSpaceAlertsEnabled(false);
     EXPECT_TRUE(item.gauge().low);
+    settings.setLowSpaceThresholdGB(5);
+    EXPECT_EQ(item.symbol(), StatusItem::normalSymbol);
 }
 
 TEST_F(StatusGaugeTest, ItDrawsAgainOnlyWhenWhatItShowsChangesAndKeepsTheTextInTheTooltip)
@@ -179,6 +159,8 @@ TEST_F(StatusGaugeTest, ItDrawsAgainOnlyWhenWhatItShowsChangesAndKeepsTheTextInT
     EXPECT_EQ(item.drawCount(), draws + 1);
     EXPECT_EQ(item.gauge().percent, 70);
     EXPECT_EQ(item.image().deviceIndependentSize(), QSizeF(StatusItem::height, StatusItem::height));
+    settings.setMenuBarDisplay(MenuBarDisplay::icon);
+    EXPECT_EQ(item.toolTip(), QString());
 }
 
 // The pictures for the documentation: the gauge at the three common tray sizes, on a light and on
