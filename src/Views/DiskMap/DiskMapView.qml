@@ -14,6 +14,7 @@ Window {
     required property AppModel model
     readonly property alias diskMap: diskMap
     readonly property alias nodeMenu: nodeMenu
+    readonly property alias folderDialog: folderDialog
     property string colorMode: "type"
     // The node waiting for the user's word before it goes to the Trash, or null.
     property var pendingTrash: null
@@ -47,7 +48,7 @@ Window {
     DiskMapModel {
         id: diskMap
         onFolderPickRequested: start => {
-            folderDialog.currentFolder = "file://" + start
+            folderDialog.currentFolder = WorkspaceActions.folderUrl(start)
             folderDialog.open()
         }
     }
@@ -147,7 +148,12 @@ Window {
     FolderDialog {
         id: folderDialog
         title: qsTr("Choose a folder to map")
-        onAccepted: diskMap.scan(decodeURIComponent(selectedFolder.toString().replace(/^file:\/\//, "")))
+        acceptLabel: qsTr("Scan")
+        onAccepted: {
+            diskMap.scan(WorkspaceActions.localPath(selectedFolder))
+            area.forceActiveFocus()
+        }
+        onRejected: area.forceActiveFocus()
     }
 
     onPendingTrashChanged: pendingTrash ? confirmation.open() : confirmation.close()

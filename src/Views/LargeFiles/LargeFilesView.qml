@@ -36,7 +36,7 @@ Window {
     FileFinderModel {
         id: finder
         onFolderPickRequested: start => {
-            folderDialog.currentFolder = "file://" + start
+            folderDialog.currentFolder = WorkspaceActions.folderUrl(start)
             folderDialog.open()
         }
     }
@@ -107,7 +107,7 @@ Window {
         id: folderDialog
         title: qsTr("Choose a folder to scan")
         acceptLabel: qsTr("Scan")
-        onAccepted: finder.scan(decodeURIComponent(selectedFolder.toString().replace(/^file:\/\//, "")))
+        onAccepted: finder.scan(WorkspaceActions.localPath(selectedFolder))
     }
 
     WindowCenterer {}

@@ -222,6 +222,25 @@ TestCase {
         keysReachTheMap("Stop")
     }
 
+    // "#", "%" and spaces are part of a folder's name, not of the address the dialog is given.
+    function test_theFolderDialogStartsAtTheMappedFolderAndScansTheChoice() {
+        const name = "Odd #1 100% sure"
+        const model = support.freshModel()
+        support.writeFile(name + "/inside.txt", 5000)
+        const window = open(model)
+        scanned(window, support.home + "/" + name)
+        window.diskMap.pickFolderAndScan()
+        const dialog = window.folderDialog
+        compare(dialog.acceptLabel, "Scan")
+        // A url shows its spaces plainly, and keeps "#" and "%" encoded as parts of the name.
+        compare(dialog.currentFolder.toString(), "file://" + support.home + "/Odd %231 100%25 sure")
+        dialog.selectedFolder = "file://" + support.home + "/Maps%20%25%23"
+        dialog.accept()
+        compare(window.diskMap.rootPath, support.home + "/Maps %#")
+        tryCompare(window.diskMap, "isScanning", false)
+        verify(child(window, "mapArea").activeFocus, "the keys go back to the map")
+    }
+
     function test_keysMoveTheSelectionAndReturnOnlyEntersFolders() {
         const window = open(support.freshModel())
         scanned(window, seed())
