@@ -130,11 +130,13 @@ FocusScope {
             Layout.preferredHeight: Theme.largeTitle.pixelSize + 8
             symbol: "externaldrive"
             color: Theme.secondary
+            Accessible.ignored: true
         }
         Label {
             text: qsTr("Nothing to show here")
             font: Theme.body
             color: Theme.secondary
+            Accessible.ignored: true  // the map's own value says there is nothing
         }
     }
 
@@ -163,6 +165,7 @@ FocusScope {
                 text: area.hoveredNode ? area.hoveredNode.labelledName : ""
                 font: Qt.font({ pixelSize: Theme.caption1.pixelSize, weight: Font.Medium })
                 color: Theme.primary
+                Accessible.ignored: true  // the pointer's help, not an element of its own
             }
             Label {
                 objectName: "tooltipDetail"
@@ -171,6 +174,7 @@ FocusScope {
                 text: area.hoveredNode ? area.hoveredNode.summary : ""
                 font: Theme.caption2
                 color: Theme.secondary
+                Accessible.ignored: true
             }
         }
     }

@@ -222,6 +222,34 @@ TestCase {
         keysReachTheMap("Stop")
     }
 
+    // Screen readers meet the map as one element: nothing drawn on it, the tooltip and the
+    // placeholder included, is read out on its own.
+    function test_theTreemapIsOneAccessibleElement() {
+        const window = open(support.freshModel())
+        const canvas = scanned(window, seed())
+        const area = child(window, "mapArea")
+        compare(area.Accessible.name, "Disk usage treemap")
+        verify(area.Accessible.description.endsWith(". Use the list on the right to browse items."))
+        const photo = centreOf(canvas, indexNamed(window, "photo.jpg"))
+        mouseMove(canvas, photo.x - 2, photo.y - 2)
+        mouseMove(canvas, photo.x, photo.y)
+        tryVerify(() => child(window, "mapTooltip").visible)
+        // A text is read out once a screen reader asks, whether or not it says so yet.
+        const exposed = []
+        const walk = item => {
+            for (let i = 0; i < item.children.length; ++i) {
+                const inner = item.children[i]
+                const said = inner.Accessible
+                const readable = said ? said.role !== Accessible.NoRole : inner.text !== undefined && inner.font !== undefined
+                if (readable && !(said && said.ignored))
+                    exposed.push(inner.objectName + " " + inner)
+                walk(inner)
+            }
+        }
+        walk(area)
+        compare(exposed, [])
+    }
+
     // "#", "%" and spaces are part of a folder's name, not of the address the dialog is given.
     function test_theFolderDialogStartsAtTheMappedFolderAndScansTheChoice() {
         const name = "Odd #1 100% sure"
