@@ -49,8 +49,16 @@ TEST(Icons, EverySymbolTheApplicationUsesHasAnIcon)
     for (const auto& target : CleanupCatalog::finderTargets({}, {}, 0))
         used.insert(QString::fromStdString(target.symbol));
     used.insert(QString::fromStdString(CleanupTarget::customFolder("/x/y").symbol));
-    for (const auto& preset : ScanPreset::all())
-        used.insert(QString::fromStdString(preset.symbol));
+    {
+        // A home with every place a Linux desktop may offer a card for.
+        const TempHome temp;
+        for (const char* folder : {"Documents", "Downloads", "Desktop", "Applications", ".local/share/flatpak", ".var/app"})
+            temp.makeFolder(folder);
+        for (const auto profile : {PlatformProfile::macOS, PlatformProfile::linuxDesktop}) {
+            for (const auto& preset : ScanPreset::forProfile(profile))
+                used.insert(QString::fromStdString(preset.symbol));
+        }
+    }
     for (const auto& type : BuildArtifactType::all())
         used.insert(QString::fromStdString(type.symbol));
     QDirIterator sources(QStringLiteral(MOPWELL_SOURCE_DIR), {"*.qml", "*.cpp", "*.h"}, QDir::Files,
