@@ -31,7 +31,8 @@ Item {
                 model: legend.categories
                 delegate: Row {
                     required property var modelData
-                    anchors.verticalCenter: parent.verticalCenter
+                    // Not an anchor: a delegate on its way out has no parent to anchor to.
+                    y: (swatches.height - height) / 2
                     spacing: 5
                     Rectangle {
                         anchors.verticalCenter: parent.verticalCenter
