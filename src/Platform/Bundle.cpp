@@ -2,10 +2,8 @@
 
 #include "Platform/AtomicFile.h"
 #include "Platform/FileSystem.h"
+#include "Platform/PlistDocument.h"
 
-#include <plist/plist.h>
-
-#include <cstdlib>
 #include <mutex>
 
 namespace Bundle {
@@ -29,26 +27,6 @@ void setMainIdentifier(std::optional<std::string> newIdentifier)
     identifier = std::move(newIdentifier);
 }
 
-}  // namespace Bundle
-
-namespace Bundle {
-namespace {
-
-std::optional<std::string> stringValue(plist_t dictionary, const char* key)
-{
-    plist_t node = plist_dict_get_item(dictionary, key);
-    if (!node || plist_get_node_type(node) != PLIST_STRING)
-        return std::nullopt;
-    char* text = nullptr;
-    plist_get_string_val(node, &text);
-    if (!text)
-        return std::nullopt;
-    std::string value(text);
-    std::free(text);
-    return value;
-}
-
-}  // namespace
 
 std::optional<Info> open(const std::string& path)
 {
@@ -58,13 +36,9 @@ std::optional<Info> open(const std::string& path)
     const auto file = AtomicFile::read(path + "/Contents/Info.plist");
     if (!file.readable || file.contents.empty())
         return info;
-    plist_t root = nullptr;
-    plist_from_memory(file.contents.data(), static_cast<uint32_t>(file.contents.size()), &root);
-    if (root && plist_get_node_type(root) == PLIST_DICT) {
-        info.identifier = stringValue(root, "CFBundleIdentifier");
-        info.name = stringValue(root, "CFBundleName");
-    }
-    plist_free(root);
+    const auto plist = PlistDocument::parse(file.contents);
+    info.identifier = plist.string("CFBundleIdentifier");
+    info.name = plist.string("CFBundleName");
     return info;
 }
 

@@ -3,6 +3,7 @@
 #include "Platform/AtomicFile.h"
 #include "Platform/FileLock.h"
 #include "Platform/Paths.h"
+#include "Platform/PlistDocument.h"
 #include "Platform/Utf8.h"
 
 #include <cctype>
@@ -22,16 +23,21 @@ plist_t asPlist(void* node) { return static_cast<plist_t>(node); }
 // be: strings go through the one escape for names, so a folder stored is the folder read back.
 std::string stringOf(plist_t node)
 {
-    char* text = nullptr;
-    plist_get_string_val(node, &text);
-    std::string value = text ? Utf8::unescaped(text) : "";
-    std::free(text);
-    return value;
+    return Utf8::unescaped(PlistDocument::stringOf(node).value_or(""));
 }
 
 plist_t stringNode(const std::string& value)
 {
-    return plist_new_string(Utf8::escaped(value).c_str());
+    // The plist library takes C strings, so a NUL inside a value is written as the escape's
+    // "\x00", which reads back as the NUL.
+    std::string text;
+    for (const char c : Utf8::escaped(value)) {
+        if (c == '\0')
+            text += "\\x00";
+        else
+            text += c;
+    }
+    return plist_new_string(text.c_str());
 }
 
 std::optional<std::vector<std::string>> stringsOf(plist_t array)

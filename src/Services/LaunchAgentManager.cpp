@@ -6,30 +6,12 @@
 #include "Platform/Subprocess.h"
 #include "Services/StartupFolder.h"
 
-#include <plist/plist.h>
+#include "Platform/PlistDocument.h"
 
 #include <algorithm>
-#include <cstdlib>
-#include <limits>
-#include <memory>
 
 namespace LaunchAgentManager {
 namespace {
-
-using PlistPointer = std::unique_ptr<std::remove_pointer_t<plist_t>, decltype(&plist_free)>;
-
-std::optional<std::string> stringValue(plist_t node)
-{
-    if (!node || plist_get_node_type(node) != PLIST_STRING)
-        return std::nullopt;
-    char* text = nullptr;
-    plist_get_string_val(node, &text);
-    if (!text)
-        return std::nullopt;
-    std::string value(text);
-    std::free(text);
-    return value;
-}
 
 std::optional<std::string> firstArgument(plist_t arguments)
 {
@@ -39,7 +21,7 @@ std::optional<std::string> firstArgument(plist_t arguments)
         if (plist_get_node_type(plist_array_get_item(arguments, i)) != PLIST_STRING)
             return std::nullopt;
     }
-    return stringValue(plist_array_get_item(arguments, 0));
+    return PlistDocument::stringOf(plist_array_get_item(arguments, 0));
 }
 
 std::string withoutExtension(const std::string& name)
@@ -105,18 +87,14 @@ bool setEnabled(bool enabled, const StartupItem& item, const Tools& tools)
 
 PlistSummary parsePlist(std::string_view bytes)
 {
-    if (bytes.empty() || bytes.size() > std::numeric_limits<uint32_t>::max())
-        return {};
-    plist_t root = nullptr;
-    plist_from_memory(bytes.data(), static_cast<uint32_t>(bytes.size()), &root);
-    const PlistPointer owner(root, &plist_free);
-    if (!root || plist_get_node_type(root) != PLIST_DICT)
+    const auto plist = PlistDocument::parse(bytes);
+    if (!plist.isDictionary())
         return {};
     PlistSummary summary;
-    summary.label = stringValue(plist_dict_get_item(root, "Label"));
-    summary.program = stringValue(plist_dict_get_item(root, "Program"));
+    summary.label = plist.string("Label");
+    summary.program = plist.string("Program");
     if (!summary.program)
-        summary.program = firstArgument(plist_dict_get_item(root, "ProgramArguments"));
+        summary.program = firstArgument(plist.item("ProgramArguments"));
     return summary;
 }
 

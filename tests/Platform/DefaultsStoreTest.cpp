@@ -208,7 +208,9 @@ TEST_F(TempHomeTest, StringsThatAreNotUtf8AreKeptByteForByte)
     // folder.
     const std::string path = tempHome.root() + "/defaults.plist";
     const std::string folder = "/home/u/caf\xe9 \xff";
-    const std::vector<std::string> folders = {folder, "/home/u/back\\slash", "/home/u/\\x41"};
+    // And a NUL, which the library's C strings would cut at.
+    const std::vector<std::string> folders = {folder, "/home/u/back\\slash", "/home/u/\\x41",
+                                              std::string("nul\0inside", 10)};
     {
         DefaultsStore store(path);
         store.set("diskMapRoot", folder);
