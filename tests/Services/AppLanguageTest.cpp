@@ -110,10 +110,12 @@ TEST(AppLanguage, RelaunchStartsTheNewCopyBeforeQuitting)
     bool quit = false;
     AppLanguage::relaunch(QString::fromStdString(program), [&] { quit = true; });
     EXPECT_FALSE(quit);  // not before the event loop gets to it
-    EXPECT_TRUE(EventLoop::waitUntil([&] { return quit && std::filesystem::exists(marker); }));
-    std::ifstream started(marker);
+    // The new copy writes its arguments when it gets to it; the file may exist a moment earlier.
     std::string arguments;
-    std::getline(started, arguments);
+    EXPECT_TRUE(EventLoop::waitUntil([&] {
+        std::ifstream started(marker);
+        return quit && std::getline(started, arguments) && !arguments.empty();
+    }));
     EXPECT_EQ(arguments, AppLanguage::relaunchArgument);
 
     quit = false;

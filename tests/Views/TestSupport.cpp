@@ -37,13 +37,23 @@ const char* const openedSchemes[] = {"http", "https", "file", "trash"};
 
 TestSupport::~TestSupport()
 {
+    // The test runner ends the application before this object goes.
+    if (QCoreApplication::instance())
+        restoreApplication();
+    models_.clear();
+    tools_.reset();
+    Clock::setNowForTesting(std::nullopt);
+}
+
+void TestSupport::restoreApplication()
+{
     for (const char* scheme : openedSchemes)
         QDesktopServices::unsetUrlHandler(QString::fromLatin1(scheme));
     Bundle::setMainIdentifier(std::nullopt);
     setLanguage(QString());
-    models_.clear();
-    tools_.reset();
-    Clock::setNowForTesting(std::nullopt);
+    Shell::instance().setUpdater(nullptr);
+    updaters_.clear();
+    feedServer_.reset();
 }
 
 QString TestSupport::home() const

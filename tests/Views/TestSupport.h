@@ -29,6 +29,10 @@ public:
 
     QString home() const;
 
+    // Undoes what the tests changed in the application (languages, link handlers, the updater)
+    // while the application still exists.
+    void restoreApplication();
+
     // A new model; the previous ones stay alive until the tests end, as windows may hold them.
     Q_INVOKABLE AppModel* freshModel();
     // Another model over the defaults file `model` writes, as the next start would read it.

@@ -19,6 +19,9 @@ public slots:
         engine->rootContext()->setContextProperty(QStringLiteral("support"), &support_);
     }
 
+    // After the last test, while the application still exists.
+    void cleanupTestCase() { support_.restoreApplication(); }
+
 private:
     TestSupport support_;
 };
