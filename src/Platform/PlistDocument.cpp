@@ -1,6 +1,7 @@
 #include "Platform/PlistDocument.h"
 
 #include <cstdint>
+#include <cstring>
 #include <limits>
 
 PlistDocument PlistDocument::parse(std::string_view bytes)
@@ -28,11 +29,12 @@ std::optional<std::string> PlistDocument::string(const char* key) const
 
 std::optional<std::string> PlistDocument::stringOf(plist_t node)
 {
-    // By pointer and length: the copying getter asserts that the text holds no NUL, and a
-    // hostile file may well hold one.
+    // By pointer: the copying getter asserts that the text holds no NUL, and a hostile file may
+    // well hold one. The stated length can then run past the text the parser kept, so the value
+    // ends at the first NUL.
     std::uint64_t length = 0;
     const char* text = node ? plist_get_string_ptr(node, &length) : nullptr;
     if (!text)
         return std::nullopt;
-    return std::string(text, length);
+    return std::string(text, strnlen(text, length));
 }
