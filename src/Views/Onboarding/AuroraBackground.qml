@@ -3,10 +3,21 @@ import Mopwell
 
 // A slow wash of colour behind the welcome: a deep gradient with a few soft bands of light that
 // drift across it over half a minute. It stands still while `still` is set (reduce motion).
+// The bands move a few pixels a second, so they step a few times a second rather than at the
+// display's rate: drawn in software over the whole screen, every frame costs most of a core.
 Rectangle {
     id: aurora
 
     property bool still: false
+    // Seconds since the drift started, advanced by the timer below.
+    property real elapsed: 0
+
+    Timer {
+        interval: 200
+        repeat: true
+        running: !aurora.still && aurora.visible
+        onTriggered: aurora.elapsed += interval / 1000
+    }
 
     gradient: Gradient {
         GradientStop { position: 0.0; color: "#0f1b3d" }
@@ -23,7 +34,7 @@ Rectangle {
         delegate: Rectangle {
             id: band
             required property var modelData
-            property real phase: 0
+            readonly property real phase: 2 * Math.PI * aurora.elapsed / modelData.seconds
             width: aurora.width * 0.9
             height: aurora.height * 0.45
             radius: height / 2
@@ -36,13 +47,6 @@ Rectangle {
                 GradientStop { position: 0.0; color: "transparent" }
                 GradientStop { position: 0.5; color: band.modelData.color }
                 GradientStop { position: 1.0; color: "transparent" }
-            }
-            NumberAnimation on phase {
-                running: !aurora.still && aurora.visible
-                from: 0
-                to: 2 * Math.PI
-                duration: band.modelData.seconds * 1000
-                loops: Animation.Infinite
             }
         }
     }

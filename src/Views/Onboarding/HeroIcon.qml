@@ -1,8 +1,9 @@
 import QtQuick
 import Mopwell
 
-// The large symbol over a step's heading, with a soft glow that breathes; the breath starts
-// again with each `pulse` and holds still under `still`.
+// The large symbol over a step's heading, with a soft glow that breathes a few times and then
+// rests (a glow breathing for as long as the step is read keeps the renderer drawing); the breath
+// starts again with each `pulse` and holds still under `still`.
 Item {
     id: hero
 
@@ -33,7 +34,7 @@ Item {
 
     SequentialAnimation {
         id: breath
-        loops: Animation.Infinite
+        loops: 3
         running: !hero.still && hero.visible
         ParallelAnimation {
             NumberAnimation { target: glow; property: "scale"; from: 0.85; to: 1.1; duration: 1400; easing.type: Easing.InOutSine }
