@@ -1,4 +1,5 @@
 #include "Platform/Paths.h"
+#include "Support/ScopedVariable.h"
 #include "Support/TempHome.h"
 
 #include <cstdlib>
@@ -30,12 +31,8 @@ TEST_F(TempHomeTest, AbbreviatingReplacesOnlyTheWholeHomeFolder)
 
 TEST(Paths, HomeFallsBackToThePasswordDatabase)
 {
-    const char* saved = std::getenv("HOME");
-    const std::string previous = saved ? saved : "";
-    unsetenv("HOME");
+    const ScopedVariable noHome("HOME", std::nullopt);
     const std::string home = Paths::home();
-    if (saved)
-        setenv("HOME", previous.c_str(), 1);
     EXPECT_FALSE(home.empty());
     EXPECT_TRUE(home.starts_with("/"));
 }

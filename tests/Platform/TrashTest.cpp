@@ -2,6 +2,7 @@
 #include "Platform/Subprocess.h"
 #include "Platform/Trash.h"
 #include "Support/DroppedCapabilities.h"
+#include "Support/ScopedVariable.h"
 #include "Support/TempHome.h"
 #include "Support/TreeBuilder.h"
 
@@ -75,12 +76,9 @@ class TrashTest : public TempHomeTest {
 protected:
     ~TrashTest() override
     {
-        savedZone ? setenv("TZ", savedZone->c_str(), 1) : unsetenv("TZ");
-        tzset();
+        tzset();  // the zone a test set is back by now
         Clock::setNowForTesting(std::nullopt);
     }
-    const std::optional<std::string> savedZone =
-        std::getenv("TZ") ? std::optional<std::string>(std::getenv("TZ")) : std::nullopt;
     const std::string home = tempHome.home();
     const std::string trash = tempHome.dataHome() + "/Trash";
     const std::string uid = std::to_string(getuid());
@@ -90,7 +88,8 @@ protected:
 
 TEST_F(TrashTest, RoundTripRecordsTheEncodedPathAndLocalDateThenPutsBack)
 {
-    setenv("TZ", "XYZ-2", 1);  // two hours east of UTC, so a date written in UTC would show
+    // Two hours east of UTC, so a date written in UTC would show.
+    const ScopedVariable zone("TZ", "XYZ-2");
     tzset();
     Clock::setNowForTesting(std::chrono::system_clock::from_time_t(1709211909));  // 2024-02-29 13:05:09 UTC
     const std::string item = home + "/some dir/a 100% na\xC3\xAFve\nname";

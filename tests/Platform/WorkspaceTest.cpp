@@ -2,10 +2,9 @@
 #include "Platform/Trash.h"
 #include "Support/FakeFileManager.h"
 #include "Support/PrivateSessionBus.h"
+#include "Support/ScopedVariable.h"
 
 #include <QTest>
-
-#include <cstdlib>
 
 #include <gtest/gtest.h>
 
@@ -61,8 +60,6 @@ TEST_F(WorkspaceTest, WithoutAFileManagerRevealOpensTheEnclosingFolder)
 
 TEST(Workspace, OpenTrashOpensTheFileManagersOwnViewWhereItHasOne)
 {
-    const char* saved = std::getenv("XDG_CURRENT_DESKTOP");
-    const std::string before = saved ? saved : "";
     const QUrl homeTrash = QUrl::fromLocalFile(QString::fromStdString(Trash::homeTrashFolder() + "/files"));
     const struct {
         const char* desktop;
@@ -77,13 +74,9 @@ TEST(Workspace, OpenTrashOpensTheFileManagersOwnViewWhereItHasOne)
         {"sway", homeTrash},
     };
     for (const auto& c : cases) {
-        setenv("XDG_CURRENT_DESKTOP", c.desktop, 1);
+        const ScopedVariable desktop("XDG_CURRENT_DESKTOP", c.desktop);
         QList<QUrl> opened;
         EXPECT_TRUE(Workspace::openTrash([&](const QUrl& url) { opened.append(url); return true; }));
         EXPECT_EQ(opened, QList<QUrl>{c.opened}) << c.desktop;
     }
-    if (saved)
-        setenv("XDG_CURRENT_DESKTOP", before.c_str(), 1);
-    else
-        unsetenv("XDG_CURRENT_DESKTOP");
 }

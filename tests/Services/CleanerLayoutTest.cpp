@@ -5,6 +5,7 @@
 #include "Platform/Trash.h"
 #include "Services/Cleaner.h"
 #include "Support/CatalogRows.h"
+#include "Support/ScopedVariable.h"
 #include "Support/TempHome.h"
 #include "Support/TreeBuilder.h"
 #include "Support/TreeSnapshot.h"
@@ -21,27 +22,6 @@ namespace fs = std::filesystem;
 namespace {
 
 using CatalogRows::folders;
-
-class ScopedVariable {
-public:
-    ScopedVariable(const char* name, const std::string& value) : name_(name)
-    {
-        if (const char* old = std::getenv(name))
-            saved_ = old;
-        setenv(name, value.c_str(), 1);
-    }
-    ~ScopedVariable()
-    {
-        if (saved_)
-            setenv(name_, saved_->c_str(), 1);
-        else
-            unsetenv(name_);
-    }
-
-private:
-    const char* name_;
-    std::optional<std::string> saved_;
-};
 
 class CleanerLayoutTest : public TempHomeTest {
 protected:

@@ -1,4 +1,5 @@
 #include "Services/Cleaner.h"
+#include "Support/ScopedVariable.h"
 #include "Support/TempHome.h"
 #include "Support/TreeBuilder.h"
 
@@ -36,13 +37,8 @@ TEST_F(TempHomeTest, SafetyTestAllowsOnlyDeepEnoughPathsInsideTheRoots)
 
 TEST(CleanerSafety, AHomeOfRootAllowsNothing)
 {
-    const char* saved = std::getenv("HOME");
-    const std::string previous = saved ? saved : "";
-    setenv("HOME", "/", 1);
-    const bool usr = Cleaner::isSafe("/usr/share/doc");
-    if (saved)
-        setenv("HOME", previous.c_str(), 1);
-    EXPECT_FALSE(usr);
+    const ScopedVariable rootHome("HOME", "/");
+    EXPECT_FALSE(Cleaner::isSafe("/usr/share/doc"));
 }
 
 TEST_F(TempHomeTest, CustomFoldersMustExistAndBeSafe)

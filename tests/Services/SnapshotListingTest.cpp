@@ -1,18 +1,8 @@
 #include "Services/SnapshotListing.h"
 
+#include "Support/PathsOf.h"
+
 #include <gtest/gtest.h>
-
-namespace {
-
-std::vector<std::string> stamps(const std::vector<LocalSnapshot>& snapshots)
-{
-    std::vector<std::string> result;
-    for (const auto& snapshot : snapshots)
-        result.push_back(snapshot.timestamp);
-    return result;
-}
-
-}  // namespace
 
 TEST(SnapshotListing, ReadsTimeMachineLinesAndPassesOverTheRest)
 {
@@ -29,8 +19,8 @@ TEST(SnapshotListing, ReadsTimeMachineLinesAndPassesOverTheRest)
     ASSERT_EQ(snapshots.size(), 4u);
     EXPECT_EQ(snapshots[0].name, "com.apple.TimeMachine.2024-01-05-101112.local");
     EXPECT_EQ(snapshots[1].name, "com.apple.TimeMachine.2024-01-06-090000.local");
-    EXPECT_EQ(stamps(snapshots), (std::vector<std::string>{"2024-01-05-101112", "2024-01-06-090000",
-                                                           "2024-01-07-080000", "not a date"}));
+    EXPECT_EQ(stringsOf(snapshots, &LocalSnapshot::timestamp),
+              (std::vector<std::string>{"2024-01-05-101112", "2024-01-06-090000", "2024-01-07-080000", "not a date"}));
     EXPECT_FALSE(snapshots[0].isSnapper());
     EXPECT_TRUE(SnapshotListing::parseTimeMachine("").empty());
 }
@@ -79,8 +69,5 @@ TEST(SnapshotListing, SortsNewestFirstKeepingEqualStampsInOrder)
         LocalSnapshot::timeMachine("a", "2024-01-05-101112"), LocalSnapshot::timeMachine("b", "2024-03-01-000000"),
         LocalSnapshot::timeMachine("c", "2024-01-05-101112"), LocalSnapshot::timeMachine("d", "2023-12-31-235959")};
     SnapshotListing::sortNewestFirst(snapshots);
-    std::vector<std::string> names;
-    for (const auto& snapshot : snapshots)
-        names.push_back(snapshot.name);
-    EXPECT_EQ(names, (std::vector<std::string>{"b", "a", "c", "d"}));
+    EXPECT_EQ(stringsOf(snapshots, &LocalSnapshot::name), (std::vector<std::string>{"b", "a", "c", "d"}));
 }

@@ -1,5 +1,6 @@
 #include "Services/SnapshotManager.h"
 
+#include "Support/PathsOf.h"
 #include "Support/TempHome.h"
 #include "Support/ToolStubs.h"
 
@@ -43,11 +44,9 @@ esac)");
 TEST_F(SnapshotManagerTest, ListsBothToolsNewestFirstAndSkipsAConfigurationThatRefuses)
 {
     const auto snapshots = SnapshotManager::list(tools);
-    std::vector<std::string> names;
-    for (const auto& snapshot : snapshots)
-        names.push_back(snapshot.name);
-    EXPECT_EQ(names, (std::vector<std::string>{"com.apple.TimeMachine.2024-02-10-080000.local", "root #7 — timeline",
-                                               "com.apple.TimeMachine.2024-01-05-101112.local"}));
+    EXPECT_EQ(stringsOf(snapshots, &LocalSnapshot::name),
+              (std::vector<std::string>{"com.apple.TimeMachine.2024-02-10-080000.local", "root #7 — timeline",
+                                        "com.apple.TimeMachine.2024-01-05-101112.local"}));
     EXPECT_EQ(stubs.calls("tmutil"), (std::vector<std::string>{"[listlocalsnapshots][/]"}));
     EXPECT_EQ(stubs.calls("snapper"), (std::vector<std::string>{"[--jsonout][list-configs]",
                                                                 "[--jsonout][-c][root][list]",

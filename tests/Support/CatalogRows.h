@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Models/CleanupCatalog.h"
+#include "Support/PathsOf.h"
 
 #include <stdexcept>
 #include <string>
@@ -25,10 +26,7 @@ inline CleanupTarget builtIn(const std::string& id, PlatformProfile profile = cu
 
 inline std::vector<std::string> idsOf(const std::vector<CleanupTarget>& targets)
 {
-    std::vector<std::string> ids;
-    for (const auto& target : targets)
-        ids.push_back(target.id);
-    return ids;
+    return stringsOf(targets, &CleanupTarget::id);
 }
 
 // A row over `paths`, as a folder the user added is.
