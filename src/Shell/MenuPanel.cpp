@@ -40,15 +40,16 @@ MenuPanel::~MenuPanel()
     delete window_.data();
 }
 
-void MenuPanel::toggle(QRect item)
+void MenuPanel::toggle(QRect item, bool secondOfDoubleClick)
 {
-    if (window_ && window_->isVisible()) {
+    const bool shown = window_ && window_->isVisible();
+    if (secondOfDoubleClick && shown == shownByLastToggle_)
+        return;
+    if (shown)
         hide();
-        return;
-    }
-    if (!justHidden_.hasExpired())
-        return;
-    showUnder(item);
+    else if (justHidden_.hasExpired())
+        showUnder(item);
+    shownByLastToggle_ = window_ && window_->isVisible();
 }
 
 void MenuPanel::showUnder(QRect item)

@@ -25,8 +25,11 @@ public:
     ~MenuPanel() override;
 
     // Shows the drop-down under the status item at `item` (empty when unknown), or hides it when
-    // it is showing.
-    void toggle(QRect item);
+    // it is showing. The second press of a double click leaves the panel as the first press left
+    // it, so that someone who double-clicks status icons gets the panel rather than a flash of
+    // it; only when something else has shown or hidden it in between (a second start of the
+    // application) is that press a click of its own.
+    void toggle(QRect item, bool secondOfDoubleClick = false);
     void showUnder(QRect item);
     // Shows the panel as an ordinary window.
     void showAsWindow();
@@ -53,4 +56,5 @@ private:
     // A click on the status item takes the focus from the panel before the click itself
     // arrives; this tells that click apart from one that should open the panel again.
     QDeadlineTimer justHidden_;
+    bool shownByLastToggle_ = false;
 };

@@ -48,10 +48,10 @@ void MopwellApp::showStatusItem()
 {
     panel_ = std::make_unique<MenuPanel>(engine_, model_, panelSource_, MenuPanel::Style::dropDown);
     statusItem_ = std::make_unique<StatusItem>(model_);
-    connect(statusItem_.get(), &StatusItem::clicked, this, [this] {
+    connect(statusItem_.get(), &StatusItem::clicked, this, [this](bool secondOfDoubleClick) {
         // The user has found the icon: the bubble pointing at it has done its work.
         welcome_->dismissCoachMark();
-        panel_->toggle(statusItem_->geometry());
+        panel_->toggle(statusItem_->geometry(), secondOfDoubleClick);
     });
     connect(statusItem_.get(), &StatusItem::quitChosen, this, &MopwellApp::quit);
     statusItem_->show();

@@ -37,8 +37,10 @@ StatusItem::StatusItem(AppModel& model, PlatformProfile profile, QObject* parent
     menu_.addAction(tr("Quit Mopwell"), this, &StatusItem::quitChosen);
     tray_.setContextMenu(&menu_);
     connect(&tray_, &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason reason) {
-        if (reason == QSystemTrayIcon::Trigger)
-            emit clicked();
+        // The desktop turns a press that quickly follows another into a double click, in place of
+        // the press itself.
+        if (reason == QSystemTrayIcon::Trigger || reason == QSystemTrayIcon::DoubleClick)
+            emit clicked(reason == QSystemTrayIcon::DoubleClick);
     });
     connect(&model_, &AppModel::changed, this, &StatusItem::refresh);
     refresh();

@@ -66,7 +66,9 @@ public:
     static QColor bandColor(const QString& band, bool dark);
 
 signals:
-    void clicked();
+    // A press of the primary button; `secondOfDoubleClick` when it came so soon after another
+    // that the desktop counts the two as a double click.
+    void clicked(bool secondOfDoubleClick);
     void quitChosen();
 
 private:

@@ -47,6 +47,13 @@ TEST_F(MenuPanelTest, DropsFramelessUnderTheItemSetsTheModelGoingAndTogglesWithC
     EXPECT_FALSE(shown());
     panel.toggle(item);
     EXPECT_TRUE(shown());
+    // A double click leaves it as its first press did, unless a second start showed it since.
+    panel.toggle(item, true);
+    EXPECT_TRUE(shown());
+    panel.toggle(item);
+    panel.showUnder(item);
+    panel.toggle(item, true);
+    EXPECT_FALSE(shown());
 }
 
 TEST_F(MenuPanelTest, GoesAwayWhenItLosesFocusAndTheClickThatTookItDoesNotReopenIt)
