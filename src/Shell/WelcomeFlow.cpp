@@ -11,6 +11,11 @@
 WelcomeFlow::WelcomeFlow(QQmlEngine& engine, AppModel& model, Views views, ItemFrame statusItemFrame, QObject* parent)
     : QObject(parent), engine_(engine), model_(model), views_(std::move(views)), statusItemFrame_(std::move(statusItemFrame))
 {
+    // The desktop tells no one when it embeds the status icon or moves it: at launch the welcome
+    // comes up before the icon has its place, so while the welcome is up it looks again now and
+    // then, and makes room for the icon once it is known.
+    followStatusItem_.setInterval(200);
+    connect(&followStatusItem_, &QTimer::timeout, this, &WelcomeFlow::placeOnboarding);
 }
 
 WelcomeFlow::~WelcomeFlow()
@@ -44,10 +49,9 @@ void WelcomeFlow::showOnboarding()
         onboarding_ = create(views_.welcome, {{QStringLiteral("model"), QVariant::fromValue(&model_)}});
         if (!onboarding_)
             return;
-        // Over the screen but for its panels: the status icon stays in reach. Without a screen
-        // it keeps the size its view gives it.
-        if (QScreen* screen = QGuiApplication::primaryScreen())
-            onboarding_->setGeometry(clearOfStatusItem(screen->geometry(), screen->availableGeometry(), itemFrame()));
+        onboardingArea_ = QRect();
+        placeOnboarding();
+        followStatusItem_.start();
         connect(onboarding_, SIGNAL(finished()), this, SLOT(finishOnboarding()));
         // Closed some other way (the window manager), it is simply gone; the next request builds
         // it afresh.
@@ -60,6 +64,23 @@ void WelcomeFlow::showOnboarding()
     onboarding_->show();
     onboarding_->raise();
     onboarding_->requestActivate();
+}
+
+void WelcomeFlow::placeOnboarding()
+{
+    QScreen* screen = QGuiApplication::primaryScreen();
+    if (!onboarding_ || !screen) {
+        followStatusItem_.stop();
+        return;
+    }
+    // Over the screen but for its panels: the status icon stays in reach. Without a screen it
+    // keeps the size its view gives it. Moved only when the area changes, so whatever the window
+    // manager makes of it is left alone.
+    const QRect area = clearOfStatusItem(screen->geometry(), screen->availableGeometry(), itemFrame());
+    if (area != onboardingArea_) {
+        onboardingArea_ = area;
+        onboarding_->setGeometry(area);
+    }
 }
 
 void WelcomeFlow::finishOnboarding()

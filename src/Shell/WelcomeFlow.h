@@ -4,6 +4,7 @@
 #include <QPointer>
 #include <QQuickWindow>
 #include <QRect>
+#include <QTimer>
 #include <QUrl>
 
 #include <functional>
@@ -67,6 +68,7 @@ signals:
 
 private slots:
     void finishOnboarding();
+    void placeOnboarding();
 
 private:
     QQuickWindow* create(const QUrl& source, const QVariantMap& properties);
@@ -78,5 +80,8 @@ private:
     ItemFrame statusItemFrame_;
     QPointer<QQuickWindow> onboarding_;
     QPointer<QQuickWindow> coachMark_;
+    // Where the welcome was last put, and the timer that looks again while it is up.
+    QRect onboardingArea_;
+    QTimer followStatusItem_;
     int coachMarkLifetime_ = 12000;
 };

@@ -6,6 +6,7 @@
 #include "Views/Components/Shell.h"
 
 #include <QMetaObject>
+#include <QScreen>
 
 #include <gtest/gtest.h>
 
@@ -60,10 +61,11 @@ protected:
     static void finish(QQuickWindow* welcome) { QMetaObject::invokeMethod(welcome, "finished"); }
 
     QQmlEngine engine;
-    WelcomeFlow flow{engine, *model, MopwellApp::Views::application().welcome, [] { return QRect(); }};
+    QRect item;  // where the desktop has put the status icon so far
+    WelcomeFlow flow{engine, *model, MopwellApp::Views::application().welcome, [this] { return item; }};
 };
 
-TEST_F(WelcomeFlowTest, AskingAgainBringsTheSameWelcomeForward)
+TEST_F(WelcomeFlowTest, AskingAgainBringsTheSameWelcomeForwardAndItMakesRoomForTheIconOnceItIsPlaced)
 {
     engine.addImportPath(QStringLiteral("qrc:/"));
     flow.showOnboarding();
@@ -71,6 +73,12 @@ TEST_F(WelcomeFlowTest, AskingAgainBringsTheSameWelcomeForward)
     ASSERT_NE(welcome, nullptr);
     EXPECT_TRUE(welcome->isVisible());
     EXPECT_EQ(welcome->title(), "Welcome to Mopwell");
+    // At launch the welcome comes up before the desktop has embedded the icon.
+    const QScreen& screen = *QGuiApplication::primaryScreen();
+    EXPECT_EQ(welcome->geometry(), screen.availableGeometry());
+    item = QRect(screen.geometry().right() - 23, screen.geometry().top(), 24, 26);
+    EXPECT_TRUE(eventually([&] { return !welcome->geometry().intersects(item); }));
+    EXPECT_EQ(welcome->geometry(), WelcomeFlow::clearOfStatusItem(screen.geometry(), screen.availableGeometry(), item));
     flow.showOnboarding();
     EXPECT_EQ(flow.onboardingWindow(), welcome);
     EXPECT_EQ(windowsTitled(QStringLiteral("Welcome to Mopwell")), 1);
