@@ -25,6 +25,8 @@ constexpr auto modifiedFlag = Flag::modifiedFlag;
 constexpr auto separateNameFlag = Flag::separateNameFlag;
 constexpr auto wholeIdFlag = Flag::wholeIdFlag;
 constexpr auto ownMemoryFlag = Flag::ownMemoryFlag;
+constexpr auto extraFlag = Flag::extraFlag;
+constexpr auto syntheticNameFlag = Flag::syntheticNameFlag;
 
 // File names are at most 255 bytes; longer text only reaches a record through the general
 // constructor, which moves it into the prefix instead.
@@ -144,14 +146,26 @@ std::string_view DiskNode::Path::lastPart() const
 
 namespace {
 
+using Extra = DiskNode::Record::Extra;
+
+// Valid for a record with an Extra only.
 DiskNode* childSlots(DiskNode::Record* record)
 {
-    return reinterpret_cast<DiskNode*>(record + 1);
+    return reinterpret_cast<DiskNode*>(reinterpret_cast<Extra*>(record + 1) + 1);
+}
+
+std::uint32_t childCountOf(const DiskNode::Record* record)
+{
+    const Extra* extra = record->extra();
+    return extra ? extra->childCount : 0;
 }
 
 const char* textOf(const DiskNode::Record* record)
 {
-    return reinterpret_cast<const char*>(record + 1) + record->childCount * sizeof(DiskNode);
+    const Extra* extra = record->extra();
+    if (!extra)
+        return reinterpret_cast<const char*>(record + 1);
+    return reinterpret_cast<const char*>(extra + 1) + extra->childCount * sizeof(DiskNode);
 }
 
 }  // namespace
@@ -162,24 +176,29 @@ DiskNode DiskNode::allocate(const Path& prefix, std::string_view tail, std::stri
 {
     tail = tail.substr(0, maxInlineText);
     separateName = separateName.substr(0, maxInlineText);
-    const std::size_t bytes = sizeof(Record) + childCount * sizeof(DiskNode) + tail.size() + separateName.size();
+    const bool extra = childCount > 0 || (flags & separateNameFlag);
+    const std::size_t bytes = sizeof(Record) + (extra ? sizeof(Extra) + childCount * sizeof(DiskNode) : 0) +
+                              tail.size() + separateName.size();
     const bool ownMemory = bytes > NodeSlabs::largestCut;
     auto* record = new (ownMemory ? ::operator new(bytes) : NodeSlabs::take(bytes)) Record;
-    record->childCount = static_cast<std::uint32_t>(childCount);
-    record->size = size;
-    record->prefix = prefix;
     record->tailLength = static_cast<std::uint16_t>(tail.size());
-    record->nameLength = static_cast<std::uint16_t>(separateName.size());
     record->category = static_cast<std::uint8_t>(category);
-    record->flags = (flags & ~(modifiedFlag | ownMemoryFlag)) | (ownMemory ? ownMemoryFlag : 0);
+    record->flags = (flags & ~(modifiedFlag | ownMemoryFlag | extraFlag)) | (ownMemory ? ownMemoryFlag : 0) |
+                    (extra ? extraFlag : 0);
+    record->size = size;
     if (modified) {
         record->flags |= modifiedFlag;
         record->modified = modified->time_since_epoch().count();
     }
-    DiskNode* slots = childSlots(record);
-    for (std::size_t i = 0; i < childCount; ++i)
-        new (slots + i) DiskNode;
-    char* text = reinterpret_cast<char*>(slots + childCount);
+    record->prefix = prefix;
+    char* text = reinterpret_cast<char*>(record + 1);
+    if (extra) {
+        new (record + 1) Extra{static_cast<std::uint32_t>(childCount), static_cast<std::uint16_t>(separateName.size())};
+        DiskNode* slots = childSlots(record);
+        for (std::size_t i = 0; i < childCount; ++i)
+            new (slots + i) DiskNode;
+        text = reinterpret_cast<char*>(slots + childCount);
+    }
     copied(separateName, copied(tail, text));
     return DiskNode(record);
 }
@@ -201,18 +220,19 @@ DiskNode::DiskNode(std::string_view id, std::string_view name, std::int64_t size
         flags |= wholeIdFlag | separateNameFlag;
         made = allocate(Path(id), {}, name, size, flags, category, modified, children.size());
     }
-    std::move(children.begin(), children.end(), childSlots(made.data_));
+    if (!children.empty())
+        std::move(children.begin(), children.end(), childSlots(made.data_));
     *this = std::move(made);
 }
 
 DiskNode DiskNode::makeEntry(const Path& folder, std::string_view name, std::int64_t size, bool isDirectory,
                              FileCategory category, std::optional<Clock::TimePoint> modified,
-                             std::vector<DiskNode>&& children)
+                             std::span<DiskNode> children)
 {
     DiskNode made = allocate(folder, name, {}, size, isDirectory ? directoryFlag : 0, category, modified,
                              children.size());
-    std::move(children.begin(), children.end(), childSlots(made.data_));
-    children.clear();
+    if (!children.empty())
+        std::move(children.begin(), children.end(), childSlots(made.data_));
     return made;
 }
 
@@ -232,9 +252,10 @@ DiskNode DiskNode::makeSynthetic(const Path& folder, std::string_view largestNam
         longer.append(largestName).append(suffix);
         tail = longer;
     }
-    DiskNode made = allocate(folder, tail, syntheticName, size, directoryFlag | syntheticFlag | separateNameFlag,
+    DiskNode made = allocate(folder, tail, {}, size, directoryFlag | syntheticFlag | syntheticNameFlag,
                              FileCategory::other, std::nullopt, children.size());
-    std::move(children.begin(), children.end(), childSlots(made.data_));
+    if (!children.empty())
+        std::move(children.begin(), children.end(), childSlots(made.data_));
     return made;
 }
 
@@ -272,8 +293,9 @@ void DiskNode::release(Record* data)
     while (!pending.empty()) {
         Record* record = pending.back();
         pending.pop_back();
-        DiskNode* slots = childSlots(record);
-        for (std::uint32_t i = 0; i < record->childCount; ++i) {
+        const std::uint32_t childCount = childCountOf(record);
+        DiskNode* slots = childCount ? childSlots(record) : nullptr;
+        for (std::uint32_t i = 0; i < childCount; ++i) {
             Record* child = std::exchange(slots[i].data_, nullptr);
             if (child && child->references.fetch_sub(1, std::memory_order_acq_rel) == 1)
                 pending.push_back(child);
@@ -307,8 +329,10 @@ std::string_view DiskNode::name() const
 {
     if (!data_)
         return {};
+    if (data_->flags & syntheticNameFlag)
+        return syntheticName;
     if (data_->flags & separateNameFlag)
-        return {textOf(data_) + data_->tailLength, data_->nameLength};
+        return {textOf(data_) + data_->tailLength, data_->extra()->nameLength};
     return {textOf(data_), data_->tailLength};
 }
 
@@ -321,18 +345,19 @@ std::optional<Clock::TimePoint> DiskNode::modified() const
 
 DiskNode DiskNode::rebuilt(std::vector<DiskNode> children) const
 {
+    DiskNode made;
     if (!data_) {
-        DiskNode made = allocate(Path(), {}, {}, 0, 0, FileCategory::other, std::nullopt, children.size());
-        std::move(children.begin(), children.end(), childSlots(made.data_));
-        return made;
+        made = allocate(Path(), {}, {}, 0, 0, FileCategory::other, std::nullopt, children.size());
+    } else {
+        const char* text = textOf(data_);
+        const std::uint8_t flags = data_->flags;
+        made = allocate(data_->prefix, {text, data_->tailLength},
+                        (flags & separateNameFlag) ? std::string_view(text + data_->tailLength, data_->extra()->nameLength)
+                                                   : std::string_view(),
+                        data_->size, flags, category(), modified(), children.size());
     }
-    const char* text = textOf(data_);
-    const std::uint8_t flags = data_->flags;
-    DiskNode made = allocate(data_->prefix, {text, data_->tailLength},
-                             (flags & separateNameFlag) ? std::string_view(text + data_->tailLength, data_->nameLength)
-                                                        : std::string_view(),
-                             data_->size, flags, category(), modified(), children.size());
-    std::move(children.begin(), children.end(), childSlots(made.data_));
+    if (!children.empty())
+        std::move(children.begin(), children.end(), childSlots(made.data_));
     return made;
 }
 

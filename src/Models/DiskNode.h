@@ -10,6 +10,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 // One item of the disk map: a file, a folder, or the "(smaller items)" node a folder folds its
@@ -18,13 +19,14 @@
 // and never copies a subtree. The setters give the handle a changed record of its own and leave
 // every other copy as it was.
 //
-// Memory: a record is 40 bytes, followed by 8 bytes per child and the name's bytes inline, cut
-// from a slab (Models/NodeSlabs) rather than allocated on its own; ids are not stored whole —
-// every child of a folder shares one copy of the folder's path and joins its own name to it when
-// asked. A folder's path is its own name and a reference to its parent's, 16 bytes plus the
-// name, once per folder, so a tree thousands of levels deep doesn't store its long paths over
-// and over. A file with a 12-byte name takes 56 bytes with the rounding to 8, plus its parent's
-// 8-byte reference.
+// Memory: a record is 32 bytes, followed by the name's bytes inline, cut from a slab
+// (Models/NodeSlabs) rather than allocated on its own; a record with children adds 8 bytes and 8
+// per child. Ids are not stored whole — every child of a folder shares one copy of the folder's
+// path and joins its own name to it when asked. A folder's path is its own name and a reference
+// to its parent's, 16 bytes plus the name, once per folder, so a tree thousands of levels deep
+// doesn't store its long paths over and over. A file with a 12-byte name takes 48 bytes with the
+// rounding to 8, plus its parent's 8-byte reference; a "(smaller items)" node doesn't store its
+// name.
 class DiskNode {
 public:
     // A folder's path, shared by all of its children's records.
@@ -35,7 +37,13 @@ public:
         // `folder` + "/" + `name`: the walk makes one per folder it enters, holding `folder`.
         Path(const Path& folder, std::string_view name);
         Path(const Path& other);
+        Path(Path&& other) noexcept : text_(std::exchange(other.text_, nullptr)) {}
         Path& operator=(const Path& other);
+        Path& operator=(Path&& other) noexcept
+        {
+            std::swap(text_, other.text_);
+            return *this;
+        }
         ~Path();
         std::size_t length() const;
         void appendTo(std::string& text) const;
@@ -58,10 +66,10 @@ public:
              std::vector<DiskNode> children);
 
     // An entry `name` of the folder at `folder` (id = folder + "/" + name). The children are
-    // moved in.
+    // moved out of `children`, which keeps its length.
     static DiskNode makeEntry(const Path& folder, std::string_view name, std::int64_t size,
                               bool isDirectory, FileCategory category,
-                              std::optional<Clock::TimePoint> modified, std::vector<DiskNode>&& children);
+                              std::optional<Clock::TimePoint> modified, std::span<DiskNode> children = {});
     // The "(smaller items)" node of `folder`; its id is `largestName`'s id followed by "#other".
     // The children are moved out of `children`, which keeps its length.
     static DiskNode makeSynthetic(const Path& folder, std::string_view largestName, std::int64_t size,
@@ -111,17 +119,22 @@ private:
     Record* data_ = nullptr;
 };
 
-// The record behind a handle; its children and then its text follow it in the same allocation.
+// The record behind a handle. A record with children or a separately stored name is followed by
+// its Extra, then its children; then, in every record, its text. Files, most of the tree, have no
+// Extra.
 struct DiskNode::Record {
     std::atomic<std::uint32_t> references{1};
-    std::uint32_t childCount = 0;
+    std::uint16_t tailLength = 0;        // the id after prefix + "/"
+    std::uint8_t category = 0;
+    std::uint8_t flags = 0;
     std::int64_t size = 0;
     Clock::TimePoint::rep modified = 0;  // meaningful with the hasModified flag only
     Path prefix;                         // the folder holding the item; none when the text is the id
-    std::uint16_t tailLength = 0;        // the id after prefix + "/"
-    std::uint16_t nameLength = 0;        // a name stored apart from the tail; 0 when it is the tail
-    std::uint8_t category = 0;
-    std::uint8_t flags = 0;
+
+    struct Extra {
+        std::uint32_t childCount = 0;
+        std::uint16_t nameLength = 0;  // a name stored apart from the tail
+    };
 
     enum Flag : std::uint8_t {
         directoryFlag = 1,
@@ -130,11 +143,16 @@ struct DiskNode::Record {
         separateNameFlag = 8,  // the name follows the tail instead of being the tail
         wholeIdFlag = 16,      // the prefix is the whole id and the tail is empty
         ownMemoryFlag = 32,    // too large for a slab: allocated on its own
+        extraFlag = 64,        // an Extra follows the record
+        syntheticNameFlag = 128,  // the name is syntheticName, not stored
     };
+
+    const Extra* extra() const { return (flags & extraFlag) ? reinterpret_cast<const Extra*>(this + 1) : nullptr; }
 };
 
 static_assert(sizeof(DiskNode) == 8, "a node handle is one pointer");
-static_assert(sizeof(DiskNode::Record) == 40, "40 bytes per node before its children and name");
+static_assert(sizeof(DiskNode::Record) == 32, "32 bytes per node before its children and name");
+static_assert(sizeof(DiskNode::Record::Extra) == 8, "children follow the Extra 8-byte aligned");
 
 // The accessors that sorting, pruning and traversals call once per item are inline.
 inline std::int64_t DiskNode::size() const
@@ -159,9 +177,10 @@ inline bool DiskNode::isSynthetic() const
 
 inline std::span<const DiskNode> DiskNode::children() const
 {
-    if (!data_)
+    const Record::Extra* extra = data_ ? data_->extra() : nullptr;
+    if (!extra)
         return {};
-    return {reinterpret_cast<const DiskNode*>(data_ + 1), data_->childCount};
+    return {reinterpret_cast<const DiskNode*>(extra + 1), extra->childCount};
 }
 
 template <>

@@ -47,16 +47,18 @@ bool isAmong(const std::string& extension, std::initializer_list<std::string_vie
 }
 
 // The disk map asks for the category of every file it meets, so files are looked up by number:
-// an extension of up to eight bytes, lowercased, packs into one integer, and the known ones sit
-// sorted in a table built at compile time. 0 stands for an empty or longer extension, which no
-// known one is.
+// an extension of up to eight bytes, lowercased, packs into one integer (its first byte highest),
+// and the known ones sit in an open-addressed table built at compile time. 0 stands for an empty
+// or longer extension, which no known one is.
+constexpr std::size_t longestExtension = sizeof(std::uint64_t);
+
 constexpr std::uint64_t packedExtension(std::string_view extension)
 {
-    if (extension.empty() || extension.size() > sizeof(std::uint64_t))
+    if (extension.empty() || extension.size() > longestExtension)
         return 0;
     std::uint64_t key = 0;
-    for (std::size_t i = 0; i < extension.size(); ++i)
-        key |= std::uint64_t{static_cast<unsigned char>(lowercase(extension[i]))} << (8 * i);
+    for (char c : extension)
+        key = (key << 8) | static_cast<unsigned char>(lowercase(c));
     return key;
 }
 
@@ -80,15 +82,23 @@ struct KnownExtension {
     FileCategory category = FileCategory::other;
 };
 
+// A quarter full at most, so a lookup mostly lands on its extension or an empty slot at once.
+constexpr std::size_t slotBits = 9;
+
+constexpr std::size_t slotOf(std::uint64_t key)
+{
+    return static_cast<std::size_t>((key * 0x9e3779b97f4a7c15ULL) >> (64 - slotBits));
+}
+
 constexpr auto knownExtensions = [] {
-    std::array<KnownExtension, std::size(videoExtensions) + std::size(imageExtensions) + std::size(audioExtensions) +
-                                   std::size(archiveExtensions) + std::size(codeExtensions) +
-                                   std::size(documentExtensions) + std::size(cacheExtensions)>
-        table{};
-    std::size_t next = 0;
+    std::array<KnownExtension, std::size_t{1} << slotBits> table{};
     const auto add = [&](const auto& extensions, FileCategory category) {
-        for (std::string_view extension : extensions)
-            table[next++] = {packedExtension(extension), category};
+        for (std::string_view extension : extensions) {
+            std::size_t slot = slotOf(packedExtension(extension));
+            while (table[slot].key != 0)
+                slot = (slot + 1) % table.size();
+            table[slot] = {packedExtension(extension), category};
+        }
     };
     add(videoExtensions, FileCategory::video);
     add(imageExtensions, FileCategory::images);
@@ -97,15 +107,30 @@ constexpr auto knownExtensions = [] {
     add(codeExtensions, FileCategory::code);
     add(documentExtensions, FileCategory::documents);
     add(cacheExtensions, FileCategory::caches);
-    std::sort(table.begin(), table.end(), [](KnownExtension a, KnownExtension b) { return a.key < b.key; });
     return table;
 }();
 
-static_assert(knownExtensions.front().key != 0, "every known extension is one to eight bytes long");
-static_assert(std::adjacent_find(knownExtensions.begin(), knownExtensions.end(),
-                                 [](KnownExtension a, KnownExtension b) { return a.key == b.key; }) ==
-                  knownExtensions.end(),
-              "an extension belongs to one category only");
+constexpr FileCategory categoryOfKey(std::uint64_t key)
+{
+    for (std::size_t slot = slotOf(key);; slot = (slot + 1) % knownExtensions.size()) {
+        if (knownExtensions[slot].key == key)
+            return knownExtensions[slot].category;
+        if (knownExtensions[slot].key == 0)
+            return FileCategory::other;
+    }
+}
+
+constexpr std::size_t knownCount(const auto&... lists)
+{
+    return (std::size(lists) + ...);
+}
+
+static_assert(static_cast<std::size_t>(std::count_if(knownExtensions.begin(), knownExtensions.end(),
+                                                    [](KnownExtension known) { return known.key != 0; })) ==
+                  knownCount(videoExtensions, imageExtensions, audioExtensions, archiveExtensions, codeExtensions,
+                             documentExtensions, cacheExtensions),
+              "every known extension is one to eight bytes long and belongs to one category only");
+static_assert(categoryOfKey(packedExtension("JPEG")) == FileCategory::images);
 
 }  // namespace
 
@@ -163,14 +188,27 @@ FileCategoryColor color(FileCategory category)
     return {};
 }
 
+// The extension is read from the end, at most one byte past the longest known one, so a name
+// costs a few steps whatever its length.
 FileCategory forFile(std::string_view name)
 {
-    const std::uint64_t key = packedExtension(pathExtension(name));
-    if (key == 0)
-        return FileCategory::other;
-    const auto found = std::lower_bound(knownExtensions.begin(), knownExtensions.end(), key,
-                                        [](KnownExtension known, std::uint64_t wanted) { return known.key < wanted; });
-    return (found != knownExtensions.end() && found->key == key) ? found->category : FileCategory::other;
+    while (name.size() > 1 && name.back() == '/')
+        name.remove_suffix(1);
+    const std::size_t stop = name.size() > longestExtension ? name.size() - longestExtension - 1 : 0;
+    std::uint64_t key = 0;
+    for (std::size_t at = name.size(); at-- > stop;) {
+        const char c = name[at];
+        if (c == '/')
+            return FileCategory::other;
+        if (c == '.') {
+            // A leading dot marks a hidden name, not an extension.
+            if (at == 0 || name[at - 1] == '/' || key == 0)
+                return FileCategory::other;
+            return categoryOfKey(key);
+        }
+        key |= std::uint64_t{static_cast<unsigned char>(lowercase(c))} << (8 * (name.size() - 1 - at));
+    }
+    return FileCategory::other;
 }
 
 std::optional<FileCategory> bundle(std::string_view folderName)

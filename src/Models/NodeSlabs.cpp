@@ -1,8 +1,9 @@
 #include "Models/NodeSlabs.h"
 
+#include "Platform/AlignedPages.h"
+
 #include <atomic>
 #include <cstdint>
-#include <cstdlib>
 #include <new>
 
 namespace NodeSlabs {
@@ -24,11 +25,14 @@ struct Slab {
 constexpr std::size_t headerBytes = (sizeof(Slab) + 7) & ~std::size_t(7);
 static_assert(largestCut + headerBytes <= slabBytes);
 
+std::atomic<std::size_t> slabsMapped{0};
+
 void release(Slab* slab, std::uint32_t dropped)
 {
     if (slab->live.fetch_sub(dropped, std::memory_order_acq_rel) == dropped) {
         slab->~Slab();
-        std::free(slab);
+        AlignedPages::unmap(slab, slabBytes);
+        slabsMapped.fetch_sub(1, std::memory_order_relaxed);
     }
 }
 
@@ -51,10 +55,8 @@ private:
     void refill()
     {
         leave();
-        void* memory = std::aligned_alloc(slabBytes, slabBytes);
-        if (!memory)
-            throw std::bad_alloc();
-        slab_ = new (memory) Slab;
+        slab_ = new (AlignedPages::map(slabBytes)) Slab;
+        slabsMapped.fetch_add(1, std::memory_order_relaxed);
         used_ = headerBytes;
         cut_ = 0;
     }
@@ -84,6 +86,11 @@ void* take(std::size_t bytes)
 void give(void* record)
 {
     release(reinterpret_cast<Slab*>(reinterpret_cast<std::uintptr_t>(record) & ~(slabBytes - 1)), 1);
+}
+
+std::size_t mappedBytes()
+{
+    return slabsMapped.load(std::memory_order_relaxed) * slabBytes;
 }
 
 }  // namespace NodeSlabs

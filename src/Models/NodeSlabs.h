@@ -7,7 +7,10 @@
 // building the record, and the allocator's header and rounding add a sixth to its size. So small
 // records are cut one after the other from 64 KB slabs, each thread filling a slab of its own,
 // and a slab goes back to the system once its last record is freed, on whatever thread that is.
-// Large records (a folder of thousands of entries) are allocated on their own.
+// Slabs are mapped from the system directly, not taken from the allocator's arenas, so a tree's
+// memory leaves the process when the tree goes instead of staying behind in the arena of the
+// thread that built it. Large records (a folder of thousands of entries) are allocated on their
+// own.
 namespace NodeSlabs {
 
 // Records at most this large come from a slab.
@@ -18,5 +21,8 @@ void* take(std::size_t bytes);
 
 // Gives back what take() returned; any thread may call it.
 void give(void* record);
+
+// The bytes of the slabs mapped now, those being filled included.
+std::size_t mappedBytes();
 
 }  // namespace NodeSlabs

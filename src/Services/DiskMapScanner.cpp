@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <chrono>
 #include <fcntl.h>
 #include <filesystem>
@@ -45,42 +46,57 @@ FileCategory dominantCategory(std::span<const DiskNode> nodes)
 // What sorting a folder's entries needs besides the entries, kept from one folder to the next so
 // that sorting allocates nothing once the walk has met its largest folder.
 struct SortScratch {
-    std::vector<std::pair<std::int64_t, std::uint32_t>> keys;  // minus the size, listing position
+    std::vector<std::uint64_t> keys;
     std::vector<DiskNode> sorted;
 };
 
-// Largest first; entries of equal size keep their listing order. The sizes are sorted apart from
-// the nodes, so comparing never reaches into the records, and each node is moved once.
-void sortLargestFirst(std::vector<DiskNode>& nodes, SortScratch& scratch)
+// Sizes the walk measures are whole 512-byte blocks. Each entry's key packs its size in blocks,
+// inverted, above its listing position, so sorting plain numbers puts the largest first and
+// keeps equal sizes in listing order, and comparing never reaches into the records. False when
+// a size doesn't fit that form.
+bool packedKeys(std::span<const DiskNode> nodes, std::vector<std::uint64_t>& keys)
+{
+    const int positionBits = std::bit_width(nodes.size() - 1);
+    const std::uint64_t mostBlocks = (std::uint64_t{1} << (64 - positionBits)) - 1;
+    keys.clear();
+    for (std::uint32_t i = 0; i < nodes.size(); ++i) {
+        const std::int64_t size = nodes[i].size();
+        if (size < 0 || size % 512 != 0 || std::uint64_t(size / 512) > mostBlocks)
+            return false;
+        keys.push_back(((mostBlocks - std::uint64_t(size / 512)) << positionBits) | i);
+    }
+    return true;
+}
+
+// Largest first; entries of equal size keep their listing order. Each node is moved twice.
+void sortLargestFirst(std::span<DiskNode> nodes, SortScratch& scratch)
 {
     if (nodes.size() < 2)
         return;
     auto& keys = scratch.keys;
-    keys.clear();
-    bool inOrder = true;
-    for (std::uint32_t i = 0; i < nodes.size(); ++i) {
-        keys.emplace_back(-nodes[i].size(), i);
-        inOrder = inOrder && (i == 0 || keys[i - 1].first <= keys[i].first);
+    if (!packedKeys(nodes, keys)) {
+        std::stable_sort(nodes.begin(), nodes.end(), [](const DiskNode& a, const DiskNode& b) { return a.size() > b.size(); });
+        return;
     }
-    if (inOrder)
+    if (std::is_sorted(keys.begin(), keys.end()))
         return;
     std::sort(keys.begin(), keys.end());
+    const std::uint64_t positionMask = (std::uint64_t{1} << std::bit_width(nodes.size() - 1)) - 1;
     scratch.sorted.clear();
-    for (const auto& key : keys)
-        scratch.sorted.push_back(std::move(nodes[key.second]));
-    nodes.swap(scratch.sorted);
+    for (const std::uint64_t key : keys)
+        scratch.sorted.push_back(std::move(nodes[key & positionMask]));
+    std::move(scratch.sorted.begin(), scratch.sorted.end(), nodes.begin());
 }
 
 // Splits a folder's entries, largest first, into those it shows and one node for the rest, in
-// place, so the list keeps its storage. The small entries keep their subtrees below that node;
-// only a folder of 0 bytes loses its entries. As the entries run largest first, the ones shown
-// are a leading run: the count limit and the share threshold each cut off a tail.
-void foldSmallEntries(const DiskNode::Path& folder, std::vector<DiskNode>& sorted, std::int64_t parentTotal)
+// place, and returns how many of the entries to keep: those it shows, then that node if there is
+// one. The small entries keep their subtrees below that node; only a folder of 0 bytes loses its
+// entries. As the entries run largest first, the ones shown are a leading run: the count limit
+// and the share threshold each cut off a tail.
+std::size_t foldSmallEntries(const DiskNode::Path& folder, std::span<DiskNode> sorted, std::int64_t parentTotal)
 {
-    if (parentTotal < 1) {
-        sorted.clear();
-        return;
-    }
+    if (parentTotal < 1)
+        return 0;
     const auto threshold = static_cast<std::int64_t>(static_cast<double>(parentTotal) * keptShare);
     const std::size_t limit = std::min(sorted.size(), keptEntries);
     std::size_t kept = 0;
@@ -89,59 +105,55 @@ void foldSmallEntries(const DiskNode::Path& folder, std::vector<DiskNode>& sorte
     std::int64_t smallTotal = 0;
     for (std::size_t index = kept; index < sorted.size(); ++index)
         smallTotal += sorted[index].size();
-    if (smallTotal < 1) {
-        sorted.resize(kept);
-        return;
-    }
+    if (smallTotal < 1)
+        return kept;
     // The largest entry is the first, whether it is kept or not; its record outlives the move.
-    DiskNode synthetic = DiskNode::makeSynthetic(folder, sorted.front().name(), smallTotal,
-                                                 std::span<DiskNode>(sorted).subspan(kept));
-    sorted.resize(kept);
-    sorted.push_back(std::move(synthetic));
+    sorted[kept] = DiskNode::makeSynthetic(folder, sorted.front().name(), smallTotal, sorted.subspan(kept));
+    return kept + 1;
 }
 
 }  // namespace
 
 std::vector<DiskNode> prune(const DiskNode::Path& folder, std::vector<DiskNode> sorted, std::int64_t parentTotal)
 {
-    foldSmallEntries(folder, sorted, parentTotal);
+    sorted.resize(foldSmallEntries(folder, sorted, parentTotal));
     return sorted;
 }
 
 namespace {
 
 // A folder whose entries are all gathered (or as many as a cancelled walk reached). The entries
-// are moved into the node; `children` is left empty with its storage, for the next folder.
+// are moved into the node.
 DiskNode finishedFolder(const DiskNode::Path& parent, std::string_view name, Modified modified,
-                        const DiskNode::Path& own, std::vector<DiskNode>& children, std::int64_t total,
+                        const DiskNode::Path& own, std::span<DiskNode> children, std::int64_t total,
                         SortScratch& scratch)
 {
     sortLargestFirst(children, scratch);
     const FileCategory category = FileCategories::bundle(name).value_or(dominantCategory(children));
-    foldSmallEntries(own, children, total);
-    return DiskNode::makeEntry(parent, name, total, true, category, modified, std::move(children));
+    const std::size_t kept = foldSmallEntries(own, children, total);
+    return DiskNode::makeEntry(parent, name, total, true, category, modified, children.first(kept));
 }
 
 // A folder that could not be listed, or was reached after cancellation: it adds nothing.
 DiskNode emptyFolder(const DiskNode::Path& parent, std::string_view name)
 {
     return DiskNode::makeEntry(parent, name, 0, true, FileCategories::bundle(name).value_or(FileCategory::other),
-                               std::nullopt, {});
+                               std::nullopt);
 }
 
 struct OpenFolder {
     DiskNode::Path own;  // this folder's path, without a trailing "/"; its children's prefix
     Modified modified;
-    std::vector<DiskNode> children;
+    std::size_t firstEntry;  // where its entries begin on the gatherer's stack of entries
     std::int64_t total = 0;
 
     std::string_view name() const { return own.lastPart(); }  // unused for the root
 };
 
 // Builds the tree bottom-up as the walker goes: a folder becomes a node once its last entry is
-// in, and each node is moved into its parent's list, never copied. An open folder's slot
-// outlives it, so the next folder at the same depth reuses the storage of the last one's list
-// instead of growing its own from nothing.
+// in, and each node is moved into its parent's list, never copied. The entries of all open
+// folders lie on one stack, each folder's above its parent's, so a deep tree costs no list of
+// its own per level and a wide one reuses the same storage from folder to folder.
 class TreeGatherer : public DirectoryWalker::Visitor {
 public:
     TreeGatherer(const std::string& rootPath, const CancelToken* token, const Progress& onProgress,
@@ -164,7 +176,7 @@ public:
         }
         bytesSeen_ += info.allocatedSize;
         add(DiskNode::makeEntry(top().own, entry.name, info.allocatedSize, false, categoryOf(entry.name),
-                                info.modified, {}));
+                                info.modified));
         return DirectoryWalker::Action::skip;
     }
 
@@ -179,9 +191,9 @@ public:
             rootUnreadable_ = true;
             return;
         }
-        const OpenFolder& unlisted = top();
-        --depth_;
-        add(emptyFolder(top().own, unlisted.name()));
+        const DiskNode::Path unlisted = std::move(top().own);
+        folders_.pop_back();
+        add(emptyFolder(top().own, unlisted.lastPart()));
     }
 
     // Nothing is known of it, not even that it is a folder: it counts as a file of 0 bytes.
@@ -189,85 +201,86 @@ public:
     {
         if ((token_ && token_->isCancelled()) || (skipsHidden_ && isHidden(name)))
             return;
-        add(DiskNode::makeEntry(top().own, name, 0, false, categoryOf(name), std::nullopt, {}));
+        add(DiskNode::makeEntry(top().own, name, 0, false, categoryOf(name), std::nullopt));
     }
 
     // After a complete walk only the root is open; after a cancelled one, the folders it was in
-    // are closed with what they hold, each with its progress report, innermost first.
-    OpenFolder& finish()
+    // are closed with what they hold, each with its progress report, innermost first. Makes the
+    // root's node.
+    DiskNode finish(const DiskNode::Path& prefix, std::string_view name, Modified modified)
     {
-        while (depth_ > 1)
+        while (folders_.size() > 1)
             closeTop();
-        return top();
+        const OpenFolder& root = top();
+        return finishedFolder(prefix, name, modified, root.own, entries_, root.total, scratch_);
     }
 
-    std::int64_t bytesSeen() const { return bytesSeen_; }
-    SortScratch& sortScratch() { return scratch_; }
     bool rootUnreadable() const { return rootUnreadable_; }
 
 private:
-    OpenFolder& top() { return slots_[depth_ - 1]; }
+    OpenFolder& top() { return folders_.back(); }
 
-    void open(const DiskNode::Path& own, Modified modified)
+    void open(DiskNode::Path own, Modified modified)
     {
-        if (depth_ == slots_.size())
-            slots_.emplace_back();
-        OpenFolder& folder = slots_[depth_++];
-        folder.own = own;
-        folder.modified = modified;
-        folder.total = 0;
+        folders_.push_back({std::move(own), modified, entries_.size(), 0});
     }
 
-    // A file's category depends on its extension alone, and a folder's files mostly share one,
-    // so the last answer is reused while the extension stays the same.
+    // A folder's files mostly share one extension, so the last file's category is reused while
+    // the names end in the same "." + extension (with something before the dot, or it would be
+    // a hidden name).
     FileCategory categoryOf(std::string_view name)
     {
-        const auto dot = name.rfind('.');
-        const std::string_view extension = (dot == std::string_view::npos || dot == 0) ? std::string_view()
-                                                                                       : name.substr(dot + 1);
-        if (!cachedExtension_ || extension != *cachedExtension_) {
-            cachedExtension_ = std::string(extension);
-            cachedCategory_ = FileCategories::forFile(name);
-        }
-        return cachedCategory_;
+        const std::size_t length = lastExtension_.size();
+        if (length > 0 && name.size() > length + 1 && name.ends_with(lastExtension_) &&
+            name[name.size() - length - 1] == '.' && name[name.size() - length - 2] != '/')
+            return lastCategory_;
+        lastCategory_ = FileCategories::forFile(name);
+        const std::size_t dot = name.rfind('.');
+        const bool extension = dot != std::string_view::npos && dot > 0 && name[dot - 1] != '/' &&
+                               name.size() - dot - 1 <= sizeof(std::uint64_t) &&
+                               name.find('/', dot) == std::string_view::npos;
+        lastExtension_ = extension ? name.substr(dot + 1) : std::string_view();
+        return lastCategory_;
     }
 
     void closeTop()
     {
-        OpenFolder& folder = top();
-        --depth_;
+        OpenFolder folder = std::move(top());
+        folders_.pop_back();
         // The clock is only read for someone listening.
         if (onProgress_) {
             const auto now = std::chrono::steady_clock::now();
-            if (depth_ == 1 || now - lastProgress_ >= progressInterval) {
+            if (folders_.size() == 1 || now - lastProgress_ >= progressInterval) {
                 lastProgress_ = now;
                 onProgress_(bytesSeen_);
             }
         }
-        add(finishedFolder(top().own, folder.name(), folder.modified, folder.own, folder.children, folder.total,
-                           scratch_));
+        const std::span<DiskNode> children = std::span<DiskNode>(entries_).subspan(folder.firstEntry);
+        DiskNode node = finishedFolder(top().own, folder.name(), folder.modified, folder.own, children, folder.total,
+                                       scratch_);
+        entries_.resize(folder.firstEntry);
+        add(std::move(node));
     }
 
     void add(DiskNode node)
     {
-        OpenFolder& parent = top();
-        parent.total += node.size();
-        parent.children.push_back(std::move(node));
-        if (depth_ == 1 && onChild_)
-            onChild_(parent.children.back());
+        top().total += node.size();
+        entries_.push_back(std::move(node));
+        if (folders_.size() == 1 && onChild_)
+            onChild_(entries_.back());
     }
 
     const CancelToken* token_;
     const Progress& onProgress_;
     const ChildHandler& onChild_;
     const bool skipsHidden_;
-    std::vector<OpenFolder> slots_;  // the first depth_ are the open folders, the root first
-    std::size_t depth_ = 0;
+    std::vector<OpenFolder> folders_;  // the open folders, the root first
+    std::vector<DiskNode> entries_;    // their entries so far, in the same order
     std::int64_t bytesSeen_ = 0;
     std::chrono::steady_clock::time_point lastProgress_{};
-    std::optional<std::string> cachedExtension_;
-    FileCategory cachedCategory_ = FileCategory::other;
     bool rootUnreadable_ = false;
+    std::string lastExtension_;  // as spelled; empty when the last file had none worth keeping
+    FileCategory lastCategory_ = FileCategory::other;
     SortScratch scratch_;
 };
 
@@ -309,7 +322,7 @@ DiskNode scanStreaming(const std::string& root, const std::shared_ptr<CancelToke
     if (!info || !info->isFolder()) {
         // Absent values mean "not a folder": an unreadable root is a file of 0 bytes.
         const std::int64_t size = info ? info->allocatedSize : 0;
-        return DiskNode::makeEntry(prefix, name, size, false, FileCategories::forFile(name), modified, {});
+        return DiskNode::makeEntry(prefix, name, size, false, FileCategories::forFile(name), modified);
     }
     const int descriptor = (token && token->isCancelled())
                                ? -1
@@ -322,8 +335,7 @@ DiskNode scanStreaming(const std::string& root, const std::shared_ptr<CancelToke
     close(descriptor);
     if (gatherer.rootUnreadable())
         return emptyFolder(prefix, name);
-    OpenFolder& top = gatherer.finish();
-    return finishedFolder(prefix, name, modified, top.own, top.children, top.total, gatherer.sortScratch());
+    return gatherer.finish(prefix, name, modified);
 }
 
 }  // namespace DiskMapScanner

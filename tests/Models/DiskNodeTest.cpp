@@ -1,4 +1,5 @@
 #include "Models/DiskNode.h"
+#include "Models/NodeSlabs.h"
 
 #include <gtest/gtest.h>
 
@@ -75,9 +76,11 @@ TEST(DiskNodeTest, EqualityAndHashTakeAllFieldsAndChildOrder)
 
 // Records are cut from slabs that one thread fills and any thread may free. A tree made on a
 // thread that has since ended stays whole, and freeing it piecemeal on two threads while a third
-// makes more gives every slab back; the sanitizer build reports a slab freed too early or never.
+// makes more gives every slab back to the system; the sanitizer build reports a slab freed too
+// early.
 TEST(DiskNodeTest, TreesOutliveTheThreadThatMadeThemAndAreFreedOnAnyThread)
 {
+    const std::size_t mappedBefore = NodeSlabs::mappedBytes();
     const auto folder = [](int index) {
         const std::string id = "/r/d" + std::to_string(index);
         std::vector<DiskNode> files;
@@ -108,7 +111,10 @@ TEST(DiskNodeTest, TreesOutliveTheThreadThatMadeThemAndAreFreedOnAnyThread)
         more.push_back(folder(index));
     freeing.join();
     EXPECT_EQ(more[8], kept[4]) << "made again, the same";
+    EXPECT_GT(NodeSlabs::mappedBytes(), mappedBefore + 1024 * 1024);
     kept.clear();
+    more.clear();
+    EXPECT_LE(NodeSlabs::mappedBytes(), mappedBefore + 64 * 1024) << "at most the slab this thread is filling";
 }
 
 }  // namespace

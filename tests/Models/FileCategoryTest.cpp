@@ -25,7 +25,8 @@ TEST(FileCategory, FilesAreSortedByExtensionWhateverTheCase)
         {"main.m", FileCategory::code},           {"config.YAML", FileCategory::code},
         {"Keynote.key", FileCategory::documents}, {"data.csv", FileCategory::documents},
         {"system.log", FileCategory::caches},     {"Crash.ips", FileCategory::caches},
-        {"/Users/me/Movies/trip.mp4", FileCategory::video},
+        {"/Users/me/Movies/trip.mp4", FileCategory::video}, {"Movies/trip.MP4/", FileCategory::video},
+        {"backup.numbers", FileCategory::documents},
     };
     for (const auto& [name, expected] : cases)
         EXPECT_EQ(forFile(name), expected) << name;
@@ -35,7 +36,7 @@ TEST(FileCategory, NamesWithoutAUsableExtensionAreOther)
 {
     for (const char* name : {"README", ".bashrc", ".cache", "notes.", "", "photos.d/README",
                              "file.unknown", "Tool.app", "clip.mp", "photo.jpgs", "photo.xjpg",
-                             "notes.markdown", "book.epubbook", "main.c\xc3\xa9"})
+                             "notes.markdown", "book.epubbook", "main.c\xc3\xa9", "photos/.png", "a.png/b", "/"})
         EXPECT_EQ(forFile(name), FileCategory::other) << name;
 }
 

@@ -203,6 +203,9 @@ TEST_F(DiskMapScannerTest, MeasuresWhatIsThereWithoutFollowingLinksOrHiddenEntri
 TEST_F(DiskMapScannerTest, OnALinuxDesktopHiddenEntriesAreMappedLikeAnyOther)
 {
     tempHome.writeFile("root/.cache/thumbnails/normal/a.png", std::string(30000, 'x'));
+    // Neighbours whose names end alike but aren't all of a kind, in whatever order they list.
+    for (const char* name : {".png", "b.png", "c.PNG", "d.png.log", "e.xpng", "png"})
+        tempHome.writeFile(std::string("root/.cache/thumbnails/normal/") + name, "x");
     tempHome.writeFile("root/.local/share/game/data.pak", std::string(60000, 'x'));
     tempHome.writeFile("root/.dotfile", std::string(9000, 'x'));
     tempHome.writeFile("root/visible.txt", std::string(4000, 'x'));
@@ -219,6 +222,16 @@ TEST_F(DiskMapScannerTest, OnALinuxDesktopHiddenEntriesAreMappedLikeAnyOther)
     const DiskNode& cache = root.children()[1];
     ASSERT_EQ(cache.children().size(), 1u);
     EXPECT_EQ(cache.children()[0].id(), path("root/.cache/thumbnails"));
+    std::vector<const DiskNode*> pending{&root};
+    while (!pending.empty()) {
+        const DiskNode* node = pending.back();
+        pending.pop_back();
+        if (!node->isDirectory()) {
+            EXPECT_EQ(node->category(), FileCategories::forFile(node->name())) << node->id();
+        }
+        for (const DiskNode& child : node->children())
+            pending.push_back(&child);
+    }
 }
 
 TEST_F(DiskMapScannerTest, ReportsProgressBeforeEachStreamedFolder)
