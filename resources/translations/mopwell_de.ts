@@ -522,6 +522,46 @@
         <source>Click Mopwell&apos;s icon in your panel any time to free up space or open the Disk Map.</source>
         <translation>Klicken Sie jederzeit auf das Symbol von Mopwell in der Leiste, um Platz freizugeben oder die Festplattenkarte zu öffnen.</translation>
     </message>
+    <message>
+        <source>Menu bar shows</source>
+        <translation>Menüleiste zeigt</translation>
+    </message>
+    <message>
+        <source>Icon only</source>
+        <translation>Nur Symbol</translation>
+    </message>
+    <message>
+        <source>Everyday caches, one tap.</source>
+        <translation>Alltägliche Caches, mit einem Tipp.</translation>
+    </message>
+    <message>
+        <source>Also Xcode, npm, Docker &amp; node_modules.</source>
+        <translation>Auch Xcode, npm, Docker &amp; node_modules.</translation>
+    </message>
+    <message>
+        <source>Reveals Xcode, npm, Docker and other dev caches, plus node_modules and build folders in your projects.</source>
+        <translation>Zeigt Caches von Xcode, npm, Docker und anderen Entwicklerwerkzeugen sowie node_modules- und Build-Ordner in Ihren Projekten.</translation>
+    </message>
+    <message>
+        <source>Status icon tooltip shows</source>
+        <translation>Tooltip des Statussymbols zeigt</translation>
+    </message>
+    <message>
+        <source>Nothing</source>
+        <translation>Nichts</translation>
+    </message>
+    <message>
+        <source>Everyday caches, one click.</source>
+        <translation>Alltägliche Caches, mit einem Klick.</translation>
+    </message>
+    <message>
+        <source>Also npm, Docker, Gradle &amp; node_modules.</source>
+        <translation>Auch npm, Docker, Gradle &amp; node_modules.</translation>
+    </message>
+    <message>
+        <source>Reveals npm, Docker, Gradle and other dev caches, plus node_modules and build folders in your projects.</source>
+        <translation>Zeigt Caches von npm, Docker, Gradle und anderen Entwicklerwerkzeugen sowie node_modules- und Build-Ordner in Ihren Projekten.</translation>
+    </message>
 </context>
 <context>
     <name>DeveloperSections</name>
@@ -532,10 +572,6 @@
     <message>
         <source>Show developer cleanups</source>
         <translation>Entwickler-Bereinigungen zeigen</translation>
-    </message>
-    <message>
-        <source>Reveals Xcode, npm, Docker and other dev caches, plus node_modules and build folders in your projects.</source>
-        <translation>Zeigt Caches von Xcode, npm, Docker und anderen Entwicklerwerkzeugen sowie node_modules- und Build-Ordner in Ihren Projekten.</translation>
     </message>
     <message>
         <source>Sort cleanups by size (largest first)</source>
@@ -831,20 +867,12 @@
         <translation>%1 s</translation>
     </message>
     <message>
-        <source>Menu bar shows</source>
-        <translation>Menüleiste zeigt</translation>
-    </message>
-    <message>
         <source>Percentage used</source>
         <translation>Belegung in Prozent</translation>
     </message>
     <message>
         <source>Free space</source>
         <translation>Freier Speicher</translation>
-    </message>
-    <message>
-        <source>Icon only</source>
-        <translation>Nur Symbol</translation>
     </message>
     <message>
         <source>Language</source>
@@ -1175,16 +1203,8 @@
         <translation>Einfach aufräumen</translation>
     </message>
     <message>
-        <source>Everyday caches, one tap.</source>
-        <translation>Alltägliche Caches, ein Klick.</translation>
-    </message>
-    <message>
         <source>I&apos;m a developer</source>
         <translation>Ich entwickle Software</translation>
-    </message>
-    <message>
-        <source>Also Xcode, npm, Docker &amp; node_modules.</source>
-        <translation>Auch Xcode, npm, Docker &amp; node_modules.</translation>
     </message>
     <message>
         <source>RECLAIM A LITTLE MORE — OPTIONAL</source>

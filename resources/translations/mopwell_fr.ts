@@ -522,6 +522,46 @@
         <source>Click Mopwell&apos;s icon in your panel any time to free up space or open the Disk Map.</source>
         <translation>Cliquez à tout moment sur l’icône de Mopwell dans la barre de tâches pour libérer de l’espace ou ouvrir la carte du disque.</translation>
     </message>
+    <message>
+        <source>Menu bar shows</source>
+        <translation>La barre des menus affiche</translation>
+    </message>
+    <message>
+        <source>Icon only</source>
+        <translation>Icône seule</translation>
+    </message>
+    <message>
+        <source>Everyday caches, one tap.</source>
+        <translation>Les caches du quotidien, en un geste.</translation>
+    </message>
+    <message>
+        <source>Also Xcode, npm, Docker &amp; node_modules.</source>
+        <translation>Aussi Xcode, npm, Docker et node_modules.</translation>
+    </message>
+    <message>
+        <source>Reveals Xcode, npm, Docker and other dev caches, plus node_modules and build folders in your projects.</source>
+        <translation>Affiche les caches de Xcode, npm, Docker et d’autres outils de développement, ainsi que les dossiers node_modules et de compilation de vos projets.</translation>
+    </message>
+    <message>
+        <source>Status icon tooltip shows</source>
+        <translation>L’infobulle de l’icône affiche</translation>
+    </message>
+    <message>
+        <source>Nothing</source>
+        <translation>Rien</translation>
+    </message>
+    <message>
+        <source>Everyday caches, one click.</source>
+        <translation>Les caches du quotidien, en un clic.</translation>
+    </message>
+    <message>
+        <source>Also npm, Docker, Gradle &amp; node_modules.</source>
+        <translation>Aussi npm, Docker, Gradle et node_modules.</translation>
+    </message>
+    <message>
+        <source>Reveals npm, Docker, Gradle and other dev caches, plus node_modules and build folders in your projects.</source>
+        <translation>Affiche les caches de npm, Docker, Gradle et d’autres outils de développement, ainsi que les dossiers node_modules et de compilation de vos projets.</translation>
+    </message>
 </context>
 <context>
     <name>DeveloperSections</name>
@@ -532,10 +572,6 @@
     <message>
         <source>Show developer cleanups</source>
         <translation>Afficher les nettoyages pour développeurs</translation>
-    </message>
-    <message>
-        <source>Reveals Xcode, npm, Docker and other dev caches, plus node_modules and build folders in your projects.</source>
-        <translation>Affiche les caches de Xcode, npm, Docker et d’autres outils de développement, ainsi que les dossiers node_modules et de compilation de vos projets.</translation>
     </message>
     <message>
         <source>Sort cleanups by size (largest first)</source>
@@ -831,20 +867,12 @@
         <translation>%1 s</translation>
     </message>
     <message>
-        <source>Menu bar shows</source>
-        <translation>La barre des menus affiche</translation>
-    </message>
-    <message>
         <source>Percentage used</source>
         <translation>Pourcentage utilisé</translation>
     </message>
     <message>
         <source>Free space</source>
         <translation>Espace libre</translation>
-    </message>
-    <message>
-        <source>Icon only</source>
-        <translation>Icône seule</translation>
     </message>
     <message>
         <source>Language</source>
@@ -1175,16 +1203,8 @@
         <translation>Juste nettoyer</translation>
     </message>
     <message>
-        <source>Everyday caches, one tap.</source>
-        <translation>Les caches du quotidien, en un geste.</translation>
-    </message>
-    <message>
         <source>I&apos;m a developer</source>
         <translation>Je suis développeur</translation>
-    </message>
-    <message>
-        <source>Also Xcode, npm, Docker &amp; node_modules.</source>
-        <translation>Aussi Xcode, npm, Docker et node_modules.</translation>
     </message>
     <message>
         <source>RECLAIM A LITTLE MORE — OPTIONAL</source>

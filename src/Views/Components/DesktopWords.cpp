@@ -22,6 +22,11 @@ DesktopWords::Words DesktopWords::forProfile(PlatformProfile profile)
             tr("How do you use this Mac?"),
             tr("Open Mopwell from the menu bar any time to clean up or explore the Disk Map."),
             tr("Click the drive icon in your menu bar any time to free up space or open the Disk Map."),
+            tr("Menu bar shows"),
+            tr("Icon only"),
+            tr("Everyday caches, one tap."),
+            tr("Also Xcode, npm, Docker & node_modules."),
+            tr("Reveals Xcode, npm, Docker and other dev caches, plus node_modules and build folders in your projects."),
         };
     }
     return {
@@ -39,6 +44,11 @@ DesktopWords::Words DesktopWords::forProfile(PlatformProfile profile)
         tr("How do you use this computer?"),
         tr("Open Mopwell from its icon in the panel any time to clean up or explore the Disk Map."),
         tr("Click Mopwell's icon in your panel any time to free up space or open the Disk Map."),
+        tr("Status icon tooltip shows"),
+        tr("Nothing"),
+        tr("Everyday caches, one click."),
+        tr("Also npm, Docker, Gradle & node_modules."),
+        tr("Reveals npm, Docker, Gradle and other dev caches, plus node_modules and build folders in your projects."),
     };
 }
 

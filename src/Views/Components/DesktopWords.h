@@ -29,6 +29,11 @@ class DesktopWords : public QObject {
     Q_PROPERTY(QString howDoYouUseThisComputer READ howDoYouUseThisComputer CONSTANT)
     Q_PROPERTY(QString openFromStatusIcon READ openFromStatusIcon CONSTANT)
     Q_PROPERTY(QString clickTheStatusIcon READ clickTheStatusIcon CONSTANT)
+    Q_PROPERTY(QString statusIconShows READ statusIconShows CONSTANT)
+    Q_PROPERTY(QString statusIconShowsNoText READ statusIconShowsNoText CONSTANT)
+    Q_PROPERTY(QString everydayCachesInOneGo READ everydayCachesInOneGo CONSTANT)
+    Q_PROPERTY(QString developerToolsExamples READ developerToolsExamples CONSTANT)
+    Q_PROPERTY(QString developerModeReveals READ developerModeReveals CONSTANT)
 
 public:
     struct Words {
@@ -49,6 +54,16 @@ public:
         QString howDoYouUseThisComputer;
         QString openFromStatusIcon;
         QString clickTheStatusIcon;
+        // The setting of what the status item says beside its picture (a Mac's menu bar) or in
+        // its tooltip (a Linux status area, whose slot holds the gauge alone), and its choice of
+        // saying nothing.
+        QString statusIconShows;
+        QString statusIconShowsNoText;
+        // The two kinds of user: one gesture cleans the everyday caches; a developer's tools are
+        // the ones this desktop's catalog has.
+        QString everydayCachesInOneGo;
+        QString developerToolsExamples;
+        QString developerModeReveals;
     };
 
     // The words of `profile`, translated into the running language.
@@ -70,6 +85,11 @@ public:
     QString howDoYouUseThisComputer() const { return current().howDoYouUseThisComputer; }
     QString openFromStatusIcon() const { return current().openFromStatusIcon; }
     QString clickTheStatusIcon() const { return current().clickTheStatusIcon; }
+    QString statusIconShows() const { return current().statusIconShows; }
+    QString statusIconShowsNoText() const { return current().statusIconShowsNoText; }
+    QString everydayCachesInOneGo() const { return current().everydayCachesInOneGo; }
+    QString developerToolsExamples() const { return current().developerToolsExamples; }
+    QString developerModeReveals() const { return current().developerModeReveals; }
 
 private:
     explicit DesktopWords(QObject* parent = nullptr);

@@ -39,7 +39,7 @@ StaggeredColumn {
             Layout.fillWidth: true
             Layout.preferredWidth: 1
             text: qsTr("Just clean up")
-            subtitle: qsTr("Everyday caches, one tap.")
+            subtitle: DesktopWords.everydayCachesInOneGo
             symbol: "sparkles"
             selected: !step.settings.developerMode
             onClicked: step.settings.developerMode = false
@@ -49,7 +49,7 @@ StaggeredColumn {
             Layout.fillWidth: true
             Layout.preferredWidth: 1
             text: qsTr("I'm a developer")
-            subtitle: qsTr("Also Xcode, npm, Docker & node_modules.")
+            subtitle: DesktopWords.developerToolsExamples
             symbol: "chevron.left.forwardslash.chevron.right"
             selected: step.settings.developerMode
             onClicked: step.settings.developerMode = true

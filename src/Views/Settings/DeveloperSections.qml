@@ -31,7 +31,7 @@ ColumnLayout {
             }
         }
         SettingsCaption {
-            text: qsTr("Reveals Xcode, npm, Docker and other dev caches, plus node_modules and build folders in your projects.")
+            text: DesktopWords.developerModeReveals
         }
         ToggleSwitch {
             objectName: "sortBySize"

@@ -50,13 +50,13 @@ SettingsSection {
         }
     }
     LabeledRow {
-        label: qsTr("Menu bar shows")
+        label: DesktopWords.statusIconShows
         SettingsPicker {
             objectName: "menuBarDisplayPicker"
             options: [
                 { value: "percent", label: qsTr("Percentage used") },
                 { value: "free", label: qsTr("Free space") },
-                { value: "icon", label: qsTr("Icon only") }
+                { value: "icon", label: DesktopWords.statusIconShowsNoText }
             ]
             value: section.settings.menuBarDisplay
             onPicked: chosen => section.settings.menuBarDisplay = chosen

@@ -295,7 +295,7 @@ TestCase {
         compare(appModel.settings.menuBarDisplay, "free")
         keyClick(Qt.Key_Down)
         compare(appModel.settings.menuBarDisplay, "icon")
-        compare(picker.displayText, "Icon only")
+        compare(picker.displayText, DesktopWords.statusIconShowsNoText)
 
         click(window, "showWelcome")
         compare(posts.count, 1)
