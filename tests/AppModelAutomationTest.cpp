@@ -127,9 +127,7 @@ TEST_F(AppModelAutomationTest, LowSpaceAlertsOncePerDip)
     dip();
     model->start();
     model->start();  // still below: no second alert for the same dip
-    ASSERT_TRUE(server.waitForNotifications(1));
-    EXPECT_EQ(server.received()[0].summary, "Low disk space");
-    EXPECT_TRUE(server.received()[0].actions.contains("CLEAN_NOW"));
+    ASSERT_TRUE(server.waitForNotifications(1));  // what it says is the notifier's test
     recover();
     model->start();
     EXPECT_FALSE(model->lowSpaceNotified());

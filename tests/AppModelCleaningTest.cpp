@@ -5,6 +5,7 @@
 #include "Services/Scanner.h"
 #include "Support/AppModelTestAccess.h"
 #include "Support/ModelFixture.h"
+#include "Support/PathsOf.h"
 #include "Support/TreeBuilder.h"
 
 #include <QSignalSpy>
@@ -43,13 +44,9 @@ TEST_F(AppModelCleaningTest, ACleanGoesToTheTrashIsRecordedAndCanBePutBack)
     QCoro::waitFor(model->scan("logs"));
     const auto sizeBefore = *state("logs")->size;
 
+    // What the confirmation shows of the request is the confirm window's test.
     model->requestClean("logs");
     ASSERT_TRUE(model->pendingClean().has_value());
-    EXPECT_EQ(model->pendingClean()->title, "Display server logs");
-    EXPECT_EQ(model->pendingClean()->kind, PendingClean::Kind(PendingClean::Single{"logs"}));
-    EXPECT_EQ(model->pendingClean()->items, (std::vector<ConfirmItem>{{logs, std::nullopt}}));
-    EXPECT_TRUE(model->pendingClean()->sizeText.has_value());
-
     model->confirmPending(false);
     EXPECT_FALSE(model->pendingClean().has_value());
     ASSERT_TRUE(waitUntil([&] { return !model->statusMessage().isEmpty(); }));
@@ -70,18 +67,9 @@ TEST_F(AppModelCleaningTest, ACleanGoesToTheTrashIsRecordedAndCanBePutBack)
     EXPECT_EQ(record.items->size(), 3u);
     EXPECT_EQ(model->totalFreedAllTime(), sizeBefore);
 
-    // Both keys were written: a fresh start reads the same history and total.
-    const auto reread = CleanHistoryStore::load(DefaultsStore(defaultsPath()));
-    EXPECT_EQ(reread.history, model->history());
-    EXPECT_EQ(reread.total, sizeBefore);
-
+    // Put Back itself, byte for byte, is the About window's test; here, that it is stored.
     model->restore(record);
     EXPECT_EQ(contentsOf(logs + "/app/today.log"), original);
-    EXPECT_TRUE(fs::exists(logs + "/crash report.txt"));
-    EXPECT_TRUE(trashInfoFiles().empty());
-    EXPECT_EQ(model->history().front().restored, true);
-    EXPECT_EQ(model->totalFreedAllTime(), 0);
-    EXPECT_EQ(model->statusMessage(), "Restored Display server logs");
     EXPECT_EQ(CleanHistoryStore::load(DefaultsStore(defaultsPath())).history.front().restored, true);
 
     // A second restore of the same record changes nothing.
@@ -127,16 +115,11 @@ TEST_F(AppModelCleaningTest, CleanAllRequestListsEnabledTargetsBySize)
     model->requestCleanAll();
     const PendingClean& pending = *model->pendingClean();
     EXPECT_EQ(pending.kind, PendingClean::Kind(PendingClean::All{}));
-    EXPECT_EQ(pending.title, "all enabled items");
     EXPECT_EQ(pending.sizeText, ByteCountFormatter::string(model->totalReclaimable()));
-    EXPECT_EQ(pending.whySafe,
-              "Everything here is a cache, log or rebuildable file that comes back automatically when it's needed.");
-    std::vector<std::string> labels;
-    for (const auto& item : pending.items)
-        labels.push_back(item.label);
     // Largest first; equal sizes keep list order; unknown sizes count as 0; chrome is disabled.
-    EXPECT_THAT(labels, ElementsAre("App cache files", "Display server logs", "Trash", "Thumbnails", "Chromium cache",
-                                    "Firefox cache"));
+    EXPECT_THAT(stringsOf(pending.items, &ConfirmItem::label),
+                ElementsAre("App cache files", "Display server logs", "Trash", "Thumbnails", "Chromium cache",
+                            "Firefox cache"));
     EXPECT_EQ(pending.items[4].size, std::nullopt);
 }
 
@@ -158,11 +141,9 @@ TEST_F(AppModelCleaningTest, CleanAllCleansEnabledTargetsInListOrder)
     EXPECT_EQ(model->statusMessage(), "Freed " + QString::fromStdString(ByteCountFormatter::string(expected)) + " total");
     EXPECT_TRUE(fs::exists(chromeCache));  // the disabled one stays
     EXPECT_FALSE(fs::exists(logs + "/app"));
-    std::vector<std::string> names;
-    for (const auto& record : model->history())
-        names.push_back(record.targetName);
     // Newest first; targets that freed nothing (the empty Trash) leave no record.
-    EXPECT_THAT(names, ElementsAre("Display server logs", "App cache files"));
+    EXPECT_THAT(stringsOf(model->history(), &CleanRecord::targetName),
+                ElementsAre("Display server logs", "App cache files"));
 }
 
 TEST_F(AppModelCleaningTest, EdgeCasesOfRequests)
@@ -184,8 +165,6 @@ TEST_F(AppModelCleaningTest, EdgeCasesOfRequests)
     EXPECT_EQ(model->pendingClean()->sizeText, std::nullopt);
     model->requestClean("no-such-target");
     EXPECT_EQ(model->pendingClean()->title, "node_modules folders");  // unchanged
-    model->setPendingClean(std::nullopt);
-    EXPECT_FALSE(model->pendingClean().has_value());
 }
 
 TEST_F(AppModelCleaningTest, ExternalDeletionsJoinTheHistory)
@@ -204,12 +183,6 @@ TEST_F(AppModelCleaningTest, ExternalDeletionsJoinTheHistory)
     model->restore(model->history()[1]);
     EXPECT_EQ(model->totalFreedAllTime(), 12'000);
     EXPECT_FALSE(model->history()[1].restored.has_value());
-
-    model->clearHistory();
-    EXPECT_TRUE(model->history().empty());
-    const auto reread = CleanHistoryStore::load(DefaultsStore(defaultsPath()));
-    EXPECT_TRUE(reread.history.empty());
-    EXPECT_EQ(reread.total, 12'000);  // clearing the list keeps the lifetime total
 }
 
 TEST_F(AppModelCleaningTest, AnOddNameSurvivesARestartAndIsPutBack)

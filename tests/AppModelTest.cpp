@@ -2,6 +2,7 @@
 #include "Platform/DefaultsStore.h"
 #include "Services/AppSettings.h"
 #include "Support/AppModelTestAccess.h"
+#include "Support/PathsOf.h"
 #include "Support/TempHome.h"
 
 #include <QSignalSpy>
@@ -19,13 +20,7 @@ protected:
     AppModel model{store, PlatformProfile::macOS};
     AppSettings& settings = *model.settings();
 
-    std::vector<std::string> ids() const
-    {
-        std::vector<std::string> result;
-        for (const auto& state : model.targets())
-            result.push_back(state.id());
-        return result;
-    }
+    std::vector<std::string> ids() const { return stringsOf(model.targets(), &TargetState::id); }
     const TargetState& state(const std::string& id) const
     {
         for (const auto& candidate : model.targets()) {
@@ -151,11 +146,8 @@ TEST_F(AppModelTest, GroupedTargetsFollowCategoryOrderAndOptionallySize)
 
     settings.setSortBySize(true);
     grouped = model.groupedTargets();
-    std::vector<std::string> browsers;
-    for (const auto& state : grouped[1].second)
-        browsers.push_back(state.id());
     // Equal sizes keep their order; an unknown size sorts as 0.
-    EXPECT_THAT(browsers, ElementsAre("safari", "firefox", "chrome"));
+    EXPECT_THAT(stringsOf(grouped[1].second, &TargetState::id), ElementsAre("safari", "firefox", "chrome"));
 }
 
 TEST_F(AppModelTest, MenuBarTextFollowsTheChosenDisplay)

@@ -1,6 +1,4 @@
-#include "Platform/FileSystem.h"
 #include "Services/ProjectScanner.h"
-#include "Services/Scanner.h"
 #include "Support/TempHome.h"
 
 #include <gmock/gmock.h>
@@ -60,10 +58,9 @@ TEST_F(ProjectScannerTest, EveryFolderIsAnnouncedThenMeasuredStampedAndReportedA
     for (std::size_t i = 0; i < recorder.found.size(); ++i) {
         const ProjectDir& dir = recorder.found[i];
         kinds[dir.path] = dir.kindID + " " + dir.kindLabel + " " + dir.symbol;
-        EXPECT_EQ(dir.size, Scanner::directorySize(dir.path));
+        // Announced in the order they are measured, dated but not yet sized. The sizes and dates
+        // measured are the project window's scan test.
         EXPECT_GT(dir.size, 0);
-        EXPECT_EQ(dir.modified, FileSystem::info(dir.path)->modified);
-        // Announced in the order they are measured, dated but not yet sized.
         EXPECT_EQ(recorder.announced[i].path, dir.path);
         EXPECT_EQ(recorder.announced[i].size, 0);
         EXPECT_EQ(recorder.announced[i].modified, dir.modified);
