@@ -156,6 +156,7 @@ TEST_F(CleanerLayoutTest, AFolderSwappedForALinkDuringACleanNeverLeadsTheRemoval
     EXPECT_GT(rounds, 10);
 }
 
+// A real build folder beside it goes whole, and only it.
 TEST_F(CleanerLayoutTest, ABuildFolderThatIsALinkIsLeftWithWhatItLeadsTo)
 {
     TreeBuilder::writeFile(H + "/src/app/package.json", 10);
@@ -166,9 +167,12 @@ TEST_F(CleanerLayoutTest, ABuildFolderThatIsALinkIsLeftWithWhatItLeadsTo)
     const auto finder = CleanupCatalog::finderTargets({"~/src"}, {}, 0)[0];
     ASSERT_EQ(finder.id, "node_modules");
 
-    const CleanOutcome outcome = Cleaner::clean(finder, false);
-    EXPECT_FALSE(fs::exists(H + "/src/web/node_modules"));
+    const CleanOutcome outcome = Cleaner::clean(finder, true);
+    EXPECT_EQ(outcome.error, std::nullopt);
+    EXPECT_GT(outcome.freed, 0);
+    ASSERT_EQ(outcome.trashed.size(), 1u);
+    EXPECT_EQ(outcome.trashed[0].original, H + "/src/web/node_modules");
+    EXPECT_TRUE(fs::exists(H + "/src/web/package.json"));
     EXPECT_TRUE(fs::is_symlink(H + "/src/app/node_modules"));
     EXPECT_TRUE(fs::exists(H + "/.pnpm-store/left-pad/index.js"));
-    EXPECT_GT(outcome.freed, 0);
 }

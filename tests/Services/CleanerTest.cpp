@@ -1,4 +1,3 @@
-#include "Models/CleanupCatalog.h"
 #include "Platform/Trash.h"
 #include "Services/Cleaner.h"
 #include "Services/Scanner.h"
@@ -222,19 +221,4 @@ TEST_F(CleanerTest, CommandsFallBackToTheirFoldersWhenTheyFail)
     outcome = Cleaner::clean(command("exit 4", {}), true);
     EXPECT_EQ(outcome.error, "Command exited with status 4");
     EXPECT_EQ(outcome.freed, 0);
-}
-
-TEST_F(CleanerTest, BuildFoldersAreRemovedWholeAndRemeasured)
-{
-    TreeBuilder::writeFile(H + "/src/app/package.json", 10);
-    TreeBuilder::writeFile(H + "/src/app/node_modules/left-pad/index.js", 3000);
-    TreeBuilder::writeFile(H + "/src/app/index.js", 10);
-    const auto finder = CleanupCatalog::finderTargets({"~/src"}, {}, 0)[0];
-    const CleanOutcome outcome = Cleaner::clean(finder, true);
-    EXPECT_EQ(outcome.error, std::nullopt);
-    EXPECT_GT(outcome.freed, 0);
-    ASSERT_EQ(outcome.trashed.size(), 1u);
-    EXPECT_EQ(outcome.trashed[0].original, H + "/src/app/node_modules");
-    EXPECT_FALSE(fs::exists(H + "/src/app/node_modules"));
-    EXPECT_TRUE(fs::exists(H + "/src/app/index.js"));
 }
