@@ -144,6 +144,8 @@ TEST_F(AppModelCleaningTest, CleanAllCleansEnabledTargetsInListOrder)
     // Newest first; targets that freed nothing (the empty Trash) leave no record.
     EXPECT_THAT(stringsOf(model->history(), &CleanRecord::targetName),
                 ElementsAre("Display server logs", "App cache files"));
+    for (const CleanRecord& record : model->history())
+        EXPECT_TRUE(record.items.has_value()) << record.targetName;  // into the Trash, as the setting says
 }
 
 TEST_F(AppModelCleaningTest, EdgeCasesOfRequests)
