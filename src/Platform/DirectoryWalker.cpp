@@ -31,17 +31,27 @@ int openDepthLimit()
 // A folder's listing lives in the walk's shared name buffer, from `listingStart` up to where the
 // next folder's begins: each name followed by a zero byte. The folders open at any time are the
 // path from the root down, so their listings stack up in that buffer and a finished folder's
-// is dropped by shortening it.
+// is dropped by shortening it. A frame is kept small, as a tree thousands of levels deep has one
+// per level: offsets into the buffer, and of the folder's own metadata what leave() and the
+// climb back need.
 struct Frame {
-    int descriptor;          // -1 while closed
+    int descriptor;  // -1 while closed
+    int depth;       // depth of this folder; its children are depth + 1
     std::uint64_t device;
     std::uint64_t inode;
-    std::size_t nameStart;   // this folder's name in its parent's listing
-    std::size_t nameLength;
-    ItemInfo info;           // this folder's own metadata, for leave()
-    std::size_t listingStart;
-    std::size_t next;        // where the next name to visit begins
-    int depth;               // depth of this folder; its children are depth + 1
+    std::uint32_t nameStart;  // this folder's name in its parent's listing
+    std::uint32_t nameLength;
+    std::uint32_t listingStart;
+    std::uint32_t next;  // where the next name to visit begins
+
+    ItemInfo info() const
+    {
+        ItemInfo info;
+        info.type = ItemInfo::Type::folder;
+        info.device = device;
+        info.inode = inode;
+        return info;
+    }
 };
 
 // Appends the names of the folder open at `descriptor`, without "." and "..", each followed by
@@ -106,8 +116,7 @@ public:
             visitor_.unreadable({-1, {}, info, 0});
             return false;
         }
-        stack_.push_back({rootDescriptor, static_cast<std::uint64_t>(status.st_dev),
-                          static_cast<std::uint64_t>(status.st_ino), 0, 0, info, 0, 0, 0});
+        stack_.push_back({rootDescriptor, 0, info.device, info.inode, 0, 0, 0, 0});
         while (!stack_.empty()) {
             // The top folder's listing is the last in the buffer: it runs to the end.
             Frame& top = stack_.back();
@@ -118,7 +127,7 @@ public:
             }
             const std::size_t start = top.next;
             const std::size_t length = std::strlen(names_.data() + start);
-            top.next = start + length + 1;
+            top.next = static_cast<std::uint32_t>(start + length + 1);
             if (!step(stack_.size() - 1, start, length))
                 return false;
         }
@@ -159,6 +168,7 @@ private:
             visitor_.unreadable({parentDescriptor, nameAt(start, length), info, depth});
             return;
         }
+        start = dropVisitedNames(level, start);
         const std::size_t listingStart = names_.size();
         std::uint64_t self = 0;
         const bool whole = appendListing(descriptor, names_, buffer_, self);
@@ -177,7 +187,25 @@ private:
             close(parent.descriptor);
             parent.descriptor = -1;
         }
-        stack_.push_back({descriptor, info.device, info.inode, start, length, info, listingStart, listingStart, depth});
+        stack_.push_back({descriptor, depth, info.device, info.inode, static_cast<std::uint32_t>(start),
+                          static_cast<std::uint32_t>(length), static_cast<std::uint32_t>(listingStart),
+                          static_cast<std::uint32_t>(listingStart)});
+    }
+
+    // Before a folder's listing goes on top of its parent's, the names the parent has already
+    // visited are dropped, all but the one being entered, whose name leave() still gives — once
+    // they are at least as many bytes as those still to visit, so each name is moved a bounded
+    // number of times. A deep tree then holds, per level, little more than the names still to come.
+    // Returns where the name being entered now begins.
+    std::size_t dropVisitedNames(std::size_t level, std::size_t start)
+    {
+        Frame& parent = stack_[level];
+        const std::size_t visited = start - parent.listingStart;
+        if (visited == 0 || visited < names_.size() - start)
+            return start;
+        names_.erase(parent.listingStart, visited);
+        parent.next -= static_cast<std::uint32_t>(visited);
+        return parent.listingStart;
     }
 
     // Leaves the finished folder on top of the stack for its parent.
@@ -197,8 +225,8 @@ private:
             }
         }
         close(finished.descriptor);
-        visitor_.leave({parent.descriptor, nameAt(finished.nameStart, finished.nameLength), finished.info,
-                        finished.depth});
+        const ItemInfo info = finished.info();
+        visitor_.leave({parent.descriptor, nameAt(finished.nameStart, finished.nameLength), info, finished.depth});
         return true;
     }
 

@@ -27,7 +27,8 @@ public:
         virtual ~Visitor() = default;
         // Every entry below the root, before a folder's contents. Only `descend` enters a folder.
         virtual Action visit(const Entry& entry) = 0;
-        // A folder entered with `descend`, after all its contents.
+        // A folder entered with `descend`, after all its contents. Of its metadata, `info` holds
+        // the type, device and inode only.
         virtual void leave(const Entry& folder) { (void)folder; }
         // A folder that could not be opened or listed; its contents are left out. For a visitor
         // that takes no partial listings, a root whose listing broke off is reported here too,

@@ -141,14 +141,22 @@ DiskNode emptyFolder(const DiskNode::Path& parent, std::string_view name)
                                std::nullopt);
 }
 
+// One per level of a deep tree, so kept to 32 bytes.
 struct OpenFolder {
     DiskNode::Path own;  // this folder's path, without a trailing "/"; its children's prefix
-    Modified modified;
-    std::size_t firstEntry;  // where its entries begin on the gatherer's stack of entries
-    std::int64_t total = 0;
+    Clock::TimePoint::rep modifiedTicks;
+    std::int64_t total;
+    std::uint32_t firstEntry;  // where its entries begin on the gatherer's stack of entries
+    bool hasModified;
 
     std::string_view name() const { return own.lastPart(); }  // unused for the root
+    Modified modified() const
+    {
+        return hasModified ? Modified(Clock::TimePoint(Clock::TimePoint::duration(modifiedTicks))) : std::nullopt;
+    }
 };
+
+static_assert(sizeof(OpenFolder) == 32);
 
 // Builds the tree bottom-up as the walker goes: a folder becomes a node once its last entry is
 // in, and each node is moved into its parent's list, never copied. The entries of all open
@@ -222,7 +230,8 @@ private:
 
     void open(DiskNode::Path own, Modified modified)
     {
-        folders_.push_back({std::move(own), modified, entries_.size(), 0});
+        folders_.push_back({std::move(own), modified ? modified->time_since_epoch().count() : 0, 0,
+                            static_cast<std::uint32_t>(entries_.size()), modified.has_value()});
     }
 
     // A folder's files mostly share one extension, so the last file's category is reused while
@@ -256,7 +265,7 @@ private:
             }
         }
         const std::span<DiskNode> children = std::span<DiskNode>(entries_).subspan(folder.firstEntry);
-        DiskNode node = finishedFolder(top().own, folder.name(), folder.modified, folder.own, children, folder.total,
+        DiskNode node = finishedFolder(top().own, folder.name(), folder.modified(), folder.own, children, folder.total,
                                        scratch_);
         entries_.resize(folder.firstEntry);
         add(std::move(node));

@@ -90,6 +90,12 @@ TEST_F(TempHomeTest, RemovingATreeRemovesLinksNotWhatTheyPointAt)
     fs::create_symlink(home + "/nowhere", home + "/doomed/dangling");
     TreeBuilder::writeFile(home + "/doomed/name with spaces\nand newline", 1);
     TreeBuilder::writeFile(home + "/doomed/bad-\xff\xfe-utf8", 1);
+    // Folders listed after many names: the walk drops the names it visited before entering
+    // some of them, and must still name each folder rightly when it leaves it.
+    for (int i = 0; i < 20; ++i) {
+        TreeBuilder::writeFile(home + "/doomed/f" + std::to_string(i), 1);
+        TreeBuilder::writeFile(home + "/doomed/d" + std::to_string(i) + "/inner-file", 1);
+    }
 
     EXPECT_TRUE(FileSystem::removeItem(home + "/doomed"));
     EXPECT_FALSE(FileSystem::exists(home + "/doomed"));
