@@ -38,17 +38,8 @@ TEST_F(AutostartEntriesTest, ListsEntriesWithTheirNameAndProgram)
                                               }));
 }
 
-TEST_F(AutostartEntriesTest, NeverOverwritesAnEntryOfTheSameName)
-{
-    entry("a.desktop", "[Desktop Entry]\nName=Live\n");
-    entry("Disabled/a.desktop", "[Desktop Entry]\nName=Off\n");
-    const auto items = AutostartEntries::list();
-    ASSERT_EQ(items.size(), 2u);
-    EXPECT_FALSE(AutostartEntries::setEnabled(true, items[1]));
-    EXPECT_FALSE(AutostartEntries::setEnabled(false, items[0]));
-    EXPECT_EQ(startupItemRows(AutostartEntries::list()), (std::vector<std::string>{"Live | — | on", "Off | — | off"}));
-}
-
+// Moving an entry aside and back, and never over one of the same name, is the startup items
+// window's test.
 TEST_F(AutostartEntriesTest, SwitchingOnAHiddenEntryUnhidesItInPlace)
 {
     const std::string path = entry("h.desktop", "[Desktop Entry]\nName=H\nHidden=true\nExec=h\n");
