@@ -156,11 +156,12 @@ std::vector<SimpleGroup> AppModel::simpleGroups() const
     }
     std::vector<SimpleGroup> groups;
     if (!caches.empty())
-        groups.push_back(makeGroup("syscaches", "System & app caches", "shippingbox.fill", caches));
+        groups.push_back(
+            makeGroup("syscaches", QT_TRANSLATE_NOOP("SimpleGroup", "System & app caches"), "shippingbox.fill", caches));
     if (!browsers.empty())
-        groups.push_back(makeGroup("browsers", "Browser caches", "safari.fill", browsers));
+        groups.push_back(makeGroup("browsers", QT_TRANSLATE_NOOP("SimpleGroup", "Browser caches"), "safari.fill", browsers));
     if (!trash.empty())
-        groups.push_back(makeGroup("trash", "Trash", "trash.fill", trash));
+        groups.push_back(makeGroup("trash", QT_TRANSLATE_NOOP("SimpleGroup", "Trash"), "trash.fill", trash));
     return groups;
 }
 

@@ -4,6 +4,7 @@
 
 #include <QPointer>
 
+#include "CatalogWords.h"
 #include "EngineJobs.h"
 #include "Platform/ByteCountFormatter.h"
 #include "QtConversions.h"
@@ -73,7 +74,8 @@ void AppModel::requestClean(const std::string& id)
     const TargetState* state = findState(id);
     if (!state)
         return;
-    PendingClean pending{PendingClean::Single{id}, state->target.name, std::nullopt, {}, state->target.whySafe()};
+    PendingClean pending{PendingClean::Single{id}, toStd(CatalogWords::name(state->target)), std::nullopt, {},
+                         toStd(CatalogWords::whySafe(state->target))};
     if (state->size)
         pending.sizeText = ByteCountFormatter::string(*state->size);
     for (const auto& line : state->target.displayPaths())
@@ -96,7 +98,7 @@ void AppModel::requestCleanAll()
                          toStd(tr("Everything here is a cache, log or rebuildable file that comes back "
                                   "automatically when it's needed."))};
     for (const TargetState* state : enabled)
-        pending.items.push_back({state->target.name, state->size});
+        pending.items.push_back({toStd(CatalogWords::name(state->target)), state->size});
     setPendingClean(std::move(pending));
 }
 
@@ -138,9 +140,10 @@ QCoro::Task<> AppModel::clean(std::string id, std::optional<bool> moveToTrash)
     }
     refreshDiskAndCheckSpace();
     record(target, outcome);
-    const QString name = toQt(target.name);
+    const QString name = CatalogWords::name(target);
     if (outcome.error)
-        setStatusMessage(name + ": " + toQt(*outcome.error));
+        setStatusMessage(
+            tr("%1: %2", "a target's name and what went wrong").arg(name, translated("Cleaner", *outcome.error)));
     else
         setStatusMessage(tr("Freed %1 from %2").arg(formatted(outcome.freed), name));
 }

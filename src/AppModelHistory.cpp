@@ -2,6 +2,7 @@
 
 #include "AppModel.h"
 
+#include "CatalogWords.h"
 #include "Platform/Trash.h"
 #include "QtConversions.h"
 #include "Services/CleanHistoryStore.h"
@@ -70,7 +71,7 @@ void AppModel::restore(const CleanRecord& record)
     // The whole amount comes off, also after a partial restore.
     setTotalFreedAllTime(std::max<std::int64_t>(0, totalFreedAllTime_ - record.freed));
     saveHistory();
-    setStatusMessage(tr("Restored %1").arg(toQt(record.targetName)));
+    setStatusMessage(tr("Restored %1").arg(CatalogWords::recordedName(record.targetName)));
     refreshDiskAndCheckSpace();
     scanAll();  // runs on by itself
 }

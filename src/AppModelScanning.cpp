@@ -9,7 +9,6 @@
 #include "EngineJobs.h"
 #include "MainThread.h"
 
-#include <QCoreApplication>
 #include <QPointer>
 #include <qcoro/qcorofuture.h>
 
@@ -102,7 +101,7 @@ std::optional<QString> AppModel::addCustomFolder(const QString& path)
 {
     const std::string expanded = Paths::expandingTilde(toStd(path));
     if (const auto message = Cleaner::validateCustom(expanded))
-        return QCoreApplication::translate("Cleaner", message->c_str());
+        return translated("Cleaner", *message);
     QStringList folders = settings_->customFolders();
     if (folders.contains(toQt(expanded)))
         return tr("Already added.");

@@ -1,29 +1,25 @@
 #pragma once
 
+#include "Models/CleanupTarget.h"
+
 #include <QString>
 
 #include <string>
-#include <vector>
 
-// The catalog's words as people read them: the targets' names, the simple mode's group titles and
-// the category headings. The catalog is plain C++ and names things in English; the views look a
-// name up under its context when they show it, and this table is what the translation tools
-// read, so a new catalog row needs its name here (a test says which are missing).
+// The catalog's texts as people read them, in the running language. A built-in row's name,
+// detail and safety sentence are marked for translation where the catalog writes them, under
+// `context`; a custom folder's name and path are the folder's own and stay as they are, byte for
+// byte, even when a folder happens to be called like a row.
 namespace CatalogWords {
 
-inline constexpr const char* targetContext = "CleanupCatalog";
-inline constexpr const char* groupContext = "SimpleGroup";
-inline constexpr const char* categoryContext = "CleanupCategory";
+inline constexpr const char* context = "CleanupCatalog";
 
-struct Word {
-    const char* context;
-    const char* text;
-};
+QString name(const CleanupTarget& target);
+QString detail(const CleanupTarget& target);
+QString whySafe(const CleanupTarget& target);
 
-const std::vector<Word>& all();
-
-// A target's name in the running language; a name the table lacks (a custom folder's) as it is,
-// byte for byte.
-QString targetName(const std::string& name);
+// A target's name as a clean record keeps it, in English: a row's name in the running language,
+// any other name (a folder's, a project clean's) as it is.
+QString recordedName(const std::string& name);
 
 }  // namespace CatalogWords

@@ -4,8 +4,10 @@
 // Qt's and back.
 
 #include "Platform/Clock.h"
+#include "Platform/UserText.h"
 #include "Platform/Utf8.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QString>
 #include <QStringList>
@@ -88,6 +90,22 @@ inline QDateTime toQt(std::optional<Clock::TimePoint> time)
     const auto milliseconds =
         std::chrono::duration_cast<std::chrono::milliseconds>(time->time_since_epoch()).count();
     return QDateTime::fromMSecsSinceEpoch(milliseconds, Qt::UTC);
+}
+
+// A text the engine wrote for people, in the running language: looked up under the context it
+// was marked with (Platform/UserText.h). Anything else, a folder's name or a command's output,
+// has no translation and comes back as it is, byte for byte.
+inline QString translated(const char* context, const std::string& text)
+{
+    if (text.empty() || !Utf8::isValid(text))
+        return toQt(text);
+    return QCoreApplication::translate(context, text.c_str());
+}
+
+// A sentence with values: translated whole, then the values put in where the language has them.
+inline QString translated(const char* context, const UserText& sentence)
+{
+    return toQt(UserText::filled(toStd(translated(context, sentence.text)), sentence.values));
 }
 
 }  // namespace QtConversions

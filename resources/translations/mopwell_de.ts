@@ -59,6 +59,17 @@
     </message>
 </context>
 <context>
+    <name>AdminShell</name>
+    <message>
+        <source>Authorization failed.</source>
+        <translation>Autorisierung fehlgeschlagen.</translation>
+    </message>
+    <message>
+        <source>Administrator rights can&apos;t be asked for: pkexec isn&apos;t installed.</source>
+        <translation>Administratorrechte können nicht angefragt werden: pkexec ist nicht installiert.</translation>
+    </message>
+</context>
+<context>
     <name>AlertDialog</name>
     <message>
         <source>OK</source>
@@ -98,6 +109,11 @@
     <message>
         <source>Already added.</source>
         <translation>Bereits hinzugefügt.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a target&apos;s name and what went wrong</comment>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -198,6 +214,13 @@
     </message>
 </context>
 <context>
+    <name>BuildArtifactType</name>
+    <message>
+        <source>py caches</source>
+        <translation>Python-Caches</translation>
+    </message>
+</context>
+<context>
     <name>ByteCountFormatter</name>
     <message>
         <source>KB</source>
@@ -234,6 +257,25 @@
     <message>
         <source>%1 bytes</source>
         <translation>%1 Byte</translation>
+    </message>
+</context>
+<context>
+    <name>Cleaner</name>
+    <message>
+        <source>Folder doesn&apos;t exist.</source>
+        <translation>Der Ordner existiert nicht.</translation>
+    </message>
+    <message>
+        <source>That location is protected and can&apos;t be cleaned.</source>
+        <translation>Dieser Ort ist geschützt und kann nicht bereinigt werden.</translation>
+    </message>
+    <message>
+        <source>Refused (protected): %1</source>
+        <translation>Abgelehnt (geschützt): %1</translation>
+    </message>
+    <message>
+        <source>Command exited with status %1</source>
+        <translation>Befehl mit Status %1 beendet</translation>
     </message>
 </context>
 <context>
@@ -350,6 +392,158 @@
         <source>Python virtualenvs</source>
         <translation>Virtuelle Python-Umgebungen</translation>
     </message>
+    <message>
+        <source>Cached web data — pages reload as needed</source>
+        <translation>Zwischengespeicherte Webdaten – Seiten laden bei Bedarf neu</translation>
+    </message>
+    <message>
+        <source>Reinstall with npm/yarn/pnpm install</source>
+        <translation>Neu installieren mit npm/yarn/pnpm install</translation>
+    </message>
+    <message>
+        <source>.next folders — rebuilt on next build</source>
+        <translation>.next-Ordner – beim nächsten Build neu erstellt</translation>
+    </message>
+    <message>
+        <source>target/ next to Cargo.toml — rebuilt with cargo build</source>
+        <translation>target/ neben Cargo.toml – neu erstellt mit cargo build</translation>
+    </message>
+    <message>
+        <source>Bytecode caches — regenerated automatically</source>
+        <translation>Bytecode-Caches – werden automatisch neu erzeugt</translation>
+    </message>
+    <message>
+        <source>.venv next to a manifest — recreate with pip install</source>
+        <translation>.venv neben einem Manifest – neu anlegen mit pip install</translation>
+    </message>
+    <message>
+        <source>These are items you already moved to the Trash.</source>
+        <translation>Das sind Elemente, die Sie bereits in den Papierkorb verschoben haben.</translation>
+    </message>
+    <message>
+        <source>Old diagnostic logs. Apps write fresh ones as needed — nothing you use is lost.</source>
+        <translation>Alte Diagnoseprotokolle. Apps schreiben bei Bedarf neue – nichts, was Sie nutzen, geht verloren.</translation>
+    </message>
+    <message>
+        <source>Streamed songs re-cache automatically the next time you play them.</source>
+        <translation>Gestreamte Titel werden beim nächsten Abspielen automatisch wieder zwischengespeichert.</translation>
+    </message>
+    <message>
+        <source>Apps just won&apos;t reopen last session&apos;s windows. It doesn&apos;t log you out or lose data.</source>
+        <translation>Apps öffnen nur die Fenster der letzten Sitzung nicht wieder. Sie werden nicht abgemeldet, und es gehen keine Daten verloren.</translation>
+    </message>
+    <message>
+        <source>Temp copies of attachments you opened. Re-copied on demand; originals stay on the server.</source>
+        <translation>Temporäre Kopien geöffneter Anhänge. Sie werden bei Bedarf neu kopiert; die Originale bleiben auf dem Server.</translation>
+    </message>
+    <message>
+        <source>Docker recreates images, layers and build cache the next time you build or pull.</source>
+        <translation>Docker erstellt Images, Layer und Build-Cache beim nächsten Build oder Pull neu.</translation>
+    </message>
+    <message>
+        <source>Reinstalled instantly with npm / yarn / pnpm install.</source>
+        <translation>Sofort neu installiert mit npm / yarn / pnpm install.</translation>
+    </message>
+    <message>
+        <source>Xcode rebuilds DerivedData on your next build.</source>
+        <translation>Xcode erstellt DerivedData beim nächsten Build neu.</translation>
+    </message>
+    <message>
+        <source>A folder you added yourself — only its contents are cleared.</source>
+        <translation>Ein Ordner, den Sie selbst hinzugefügt haben – nur sein Inhalt wird geleert.</translation>
+    </message>
+    <message>
+        <source>Rebuilt the next time you build the project (npm install, cargo build, …).</source>
+        <translation>Wird beim nächsten Build des Projekts neu erstellt (npm install, cargo build …).</translation>
+    </message>
+    <message>
+        <source>Re-downloaded or rebuilt automatically the next time you build or install.</source>
+        <translation>Wird beim nächsten Build oder bei der nächsten Installation automatisch neu geladen oder erstellt.</translation>
+    </message>
+    <message>
+        <source>Apps and websites recreate these caches automatically when they next need them.</source>
+        <translation>Apps und Websites legen diese Caches automatisch neu an, sobald sie sie wieder brauchen.</translation>
+    </message>
+    <message>
+        <source>Temporary files apps recreate as needed</source>
+        <translation>Temporäre Dateien, die Apps bei Bedarf neu anlegen</translation>
+    </message>
+    <message>
+        <source>Empty the Trash</source>
+        <translation>Papierkorb leeren</translation>
+    </message>
+    <message>
+        <source>Old Xorg log files</source>
+        <translation>Alte Xorg-Protokolldateien</translation>
+    </message>
+    <message>
+        <source>Window/tab restore data — apps won&apos;t reopen last session</source>
+        <translation>Daten zum Wiederherstellen von Fenstern/Tabs – Apps öffnen die letzte Sitzung nicht wieder</translation>
+    </message>
+    <message>
+        <source>Previews file managers recreate as needed</source>
+        <translation>Vorschaubilder, die Dateimanager bei Bedarf neu erstellen</translation>
+    </message>
+    <message>
+        <source>Temporary files Flatpak apps recreate as needed</source>
+        <translation>Temporäre Dateien, die Flatpak-Apps bei Bedarf neu anlegen</translation>
+    </message>
+    <message>
+        <source>Android/Gradle downloads &amp; build cache</source>
+        <translation>Android-/Gradle-Downloads &amp; Build-Cache</translation>
+    </message>
+    <message>
+        <source>Node package cache</source>
+        <translation>Cache der Node-Pakete</translation>
+    </message>
+    <message>
+        <source>Yarn package cache</source>
+        <translation>Cache der Yarn-Pakete</translation>
+    </message>
+    <message>
+        <source>pnpm content-addressable store</source>
+        <translation>Inhaltsadressierter Speicher von pnpm</translation>
+    </message>
+    <message>
+        <source>Python uv package cache</source>
+        <translation>Paket-Cache von Python uv</translation>
+    </message>
+    <message>
+        <source>Python pip download cache</source>
+        <translation>Download-Cache von Python pip</translation>
+    </message>
+    <message>
+        <source>Dart/Flutter packages</source>
+        <translation>Dart-/Flutter-Pakete</translation>
+    </message>
+    <message>
+        <source>Downloaded Go modules</source>
+        <translation>Heruntergeladene Go-Module</translation>
+    </message>
+    <message>
+        <source>Rust crate downloads</source>
+        <translation>Heruntergeladene Rust-Crates</translation>
+    </message>
+    <message>
+        <source>Dangling images, stopped containers, build cache</source>
+        <translation>Verwaiste Images, gestoppte Container, Build-Cache</translation>
+    </message>
+    <message>
+        <source>IntelliJ/PyCharm/etc. caches</source>
+        <translation>Caches von IntelliJ/PyCharm usw.</translation>
+    </message>
+    <message>
+        <source>Old versions &amp; download cache</source>
+        <translation>Alte Versionen &amp; Download-Cache</translation>
+    </message>
+    <message>
+        <source>SwiftPM, TypeScript, node-gyp</source>
+        <translation>Caches von SwiftPM, TypeScript und node-gyp</translation>
+    </message>
+    <message>
+        <source>puppeteer, huggingface, whisper, selenium</source>
+        <translation>puppeteer, huggingface, whisper und selenium</translation>
+    </message>
 </context>
 <context>
     <name>CleanupCategory</name>
@@ -385,10 +579,6 @@
         <translation>%1 Elemente</translation>
     </message>
     <message>
-        <source>Clean </source>
-        <translation>Bereinigen: </translation>
-    </message>
-    <message>
         <source>Frees about %1. This data regenerates automatically.</source>
         <translation>Gibt etwa %1 frei. Diese Daten entstehen automatisch neu.</translation>
     </message>
@@ -415,6 +605,10 @@
     <message>
         <source>Clean</source>
         <translation>Bereinigen</translation>
+    </message>
+    <message>
+        <source>Clean %1</source>
+        <translation>%1 bereinigen</translation>
     </message>
 </context>
 <context>
@@ -631,6 +825,10 @@
     <message>
         <source>hidden</source>
         <translation>versteckt</translation>
+    </message>
+    <message>
+        <source>(smaller items)</source>
+        <translation>(kleinere Elemente)</translation>
     </message>
 </context>
 <context>
@@ -1465,6 +1663,41 @@
     <message>
         <source>Recommended — recover anything you change your mind about.</source>
         <translation>Empfohlen – holen Sie alles zurück, wenn Sie es sich anders überlegen.</translation>
+    </message>
+</context>
+<context>
+    <name>ScanPreset</name>
+    <message>
+        <source>Home</source>
+        <translation>Benutzerordner</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>Dokumente</translation>
+    </message>
+    <message>
+        <source>Downloads</source>
+        <translation>Downloads</translation>
+    </message>
+    <message>
+        <source>Desktop</source>
+        <translation>Schreibtisch</translation>
+    </message>
+    <message>
+        <source>Applications</source>
+        <translation>Anwendungen</translation>
+    </message>
+    <message>
+        <source>Whole Disk</source>
+        <translation>Gesamte Festplatte</translation>
+    </message>
+    <message>
+        <source>Flatpak Apps</source>
+        <translation>Flatpak-Apps</translation>
+    </message>
+    <message>
+        <source>App Data</source>
+        <translation>App-Daten</translation>
     </message>
 </context>
 <context>

@@ -59,6 +59,17 @@
     </message>
 </context>
 <context>
+    <name>AdminShell</name>
+    <message>
+        <source>Authorization failed.</source>
+        <translation>L’autorisation a échoué.</translation>
+    </message>
+    <message>
+        <source>Administrator rights can&apos;t be asked for: pkexec isn&apos;t installed.</source>
+        <translation>Impossible de demander les droits d’administrateur : pkexec n’est pas installé.</translation>
+    </message>
+</context>
+<context>
     <name>AlertDialog</name>
     <message>
         <source>OK</source>
@@ -98,6 +109,11 @@
     <message>
         <source>Already added.</source>
         <translation>Déjà ajouté.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a target&apos;s name and what went wrong</comment>
+        <translation>%1 : %2</translation>
     </message>
 </context>
 <context>
@@ -198,6 +214,13 @@
     </message>
 </context>
 <context>
+    <name>BuildArtifactType</name>
+    <message>
+        <source>py caches</source>
+        <translation>caches Python</translation>
+    </message>
+</context>
+<context>
     <name>ByteCountFormatter</name>
     <message>
         <source>KB</source>
@@ -234,6 +257,25 @@
     <message>
         <source>%1 bytes</source>
         <translation>%1 octets</translation>
+    </message>
+</context>
+<context>
+    <name>Cleaner</name>
+    <message>
+        <source>Folder doesn&apos;t exist.</source>
+        <translation>Ce dossier n’existe pas.</translation>
+    </message>
+    <message>
+        <source>That location is protected and can&apos;t be cleaned.</source>
+        <translation>Cet emplacement est protégé et ne peut pas être nettoyé.</translation>
+    </message>
+    <message>
+        <source>Refused (protected): %1</source>
+        <translation>Refusé (protégé) : %1</translation>
+    </message>
+    <message>
+        <source>Command exited with status %1</source>
+        <translation>La commande s’est terminée avec le code %1</translation>
     </message>
 </context>
 <context>
@@ -350,6 +392,158 @@
         <source>Python virtualenvs</source>
         <translation>Environnements virtuels Python</translation>
     </message>
+    <message>
+        <source>Cached web data — pages reload as needed</source>
+        <translation>Données web en cache — les pages se rechargent au besoin</translation>
+    </message>
+    <message>
+        <source>Reinstall with npm/yarn/pnpm install</source>
+        <translation>Réinstallez avec npm/yarn/pnpm install</translation>
+    </message>
+    <message>
+        <source>.next folders — rebuilt on next build</source>
+        <translation>Dossiers .next — recréés à la prochaine compilation</translation>
+    </message>
+    <message>
+        <source>target/ next to Cargo.toml — rebuilt with cargo build</source>
+        <translation>target/ à côté de Cargo.toml — recréé avec cargo build</translation>
+    </message>
+    <message>
+        <source>Bytecode caches — regenerated automatically</source>
+        <translation>Caches de bytecode — régénérés automatiquement</translation>
+    </message>
+    <message>
+        <source>.venv next to a manifest — recreate with pip install</source>
+        <translation>.venv à côté d’un manifeste — recréez-le avec pip install</translation>
+    </message>
+    <message>
+        <source>These are items you already moved to the Trash.</source>
+        <translation>Ce sont des éléments que vous avez déjà placés dans la corbeille.</translation>
+    </message>
+    <message>
+        <source>Old diagnostic logs. Apps write fresh ones as needed — nothing you use is lost.</source>
+        <translation>D’anciens journaux de diagnostic. Les apps en écrivent de nouveaux au besoin — rien de ce que vous utilisez n’est perdu.</translation>
+    </message>
+    <message>
+        <source>Streamed songs re-cache automatically the next time you play them.</source>
+        <translation>Les morceaux écoutés en streaming se remettent en cache automatiquement la prochaine fois que vous les écoutez.</translation>
+    </message>
+    <message>
+        <source>Apps just won&apos;t reopen last session&apos;s windows. It doesn&apos;t log you out or lose data.</source>
+        <translation>Les apps ne rouvriront simplement pas les fenêtres de la dernière session. Vous n’êtes pas déconnecté et aucune donnée n’est perdue.</translation>
+    </message>
+    <message>
+        <source>Temp copies of attachments you opened. Re-copied on demand; originals stay on the server.</source>
+        <translation>Copies temporaires des pièces jointes ouvertes. Recopiées au besoin ; les originaux restent sur le serveur.</translation>
+    </message>
+    <message>
+        <source>Docker recreates images, layers and build cache the next time you build or pull.</source>
+        <translation>Docker recrée les images, les couches et le cache de compilation lors du prochain build ou pull.</translation>
+    </message>
+    <message>
+        <source>Reinstalled instantly with npm / yarn / pnpm install.</source>
+        <translation>Réinstallés en un instant avec npm / yarn / pnpm install.</translation>
+    </message>
+    <message>
+        <source>Xcode rebuilds DerivedData on your next build.</source>
+        <translation>Xcode recrée DerivedData à votre prochaine compilation.</translation>
+    </message>
+    <message>
+        <source>A folder you added yourself — only its contents are cleared.</source>
+        <translation>Un dossier que vous avez ajouté vous-même — seul son contenu est vidé.</translation>
+    </message>
+    <message>
+        <source>Rebuilt the next time you build the project (npm install, cargo build, …).</source>
+        <translation>Recréé à la prochaine compilation du projet (npm install, cargo build…).</translation>
+    </message>
+    <message>
+        <source>Re-downloaded or rebuilt automatically the next time you build or install.</source>
+        <translation>Retéléchargé ou recréé automatiquement à la prochaine compilation ou installation.</translation>
+    </message>
+    <message>
+        <source>Apps and websites recreate these caches automatically when they next need them.</source>
+        <translation>Les apps et les sites web recréent ces caches automatiquement dès qu’ils en ont de nouveau besoin.</translation>
+    </message>
+    <message>
+        <source>Temporary files apps recreate as needed</source>
+        <translation>Fichiers temporaires que les apps recréent au besoin</translation>
+    </message>
+    <message>
+        <source>Empty the Trash</source>
+        <translation>Vider la corbeille</translation>
+    </message>
+    <message>
+        <source>Old Xorg log files</source>
+        <translation>Anciens fichiers journaux de Xorg</translation>
+    </message>
+    <message>
+        <source>Window/tab restore data — apps won&apos;t reopen last session</source>
+        <translation>Données de restauration des fenêtres/onglets — les apps ne rouvriront pas la dernière session</translation>
+    </message>
+    <message>
+        <source>Previews file managers recreate as needed</source>
+        <translation>Aperçus que les gestionnaires de fichiers recréent au besoin</translation>
+    </message>
+    <message>
+        <source>Temporary files Flatpak apps recreate as needed</source>
+        <translation>Fichiers temporaires que les apps Flatpak recréent au besoin</translation>
+    </message>
+    <message>
+        <source>Android/Gradle downloads &amp; build cache</source>
+        <translation>Téléchargements et cache de compilation Android/Gradle</translation>
+    </message>
+    <message>
+        <source>Node package cache</source>
+        <translation>Cache des paquets Node</translation>
+    </message>
+    <message>
+        <source>Yarn package cache</source>
+        <translation>Cache des paquets Yarn</translation>
+    </message>
+    <message>
+        <source>pnpm content-addressable store</source>
+        <translation>Magasin adressé par contenu de pnpm</translation>
+    </message>
+    <message>
+        <source>Python uv package cache</source>
+        <translation>Cache des paquets Python uv</translation>
+    </message>
+    <message>
+        <source>Python pip download cache</source>
+        <translation>Cache des téléchargements Python pip</translation>
+    </message>
+    <message>
+        <source>Dart/Flutter packages</source>
+        <translation>Paquets Dart/Flutter</translation>
+    </message>
+    <message>
+        <source>Downloaded Go modules</source>
+        <translation>Modules Go téléchargés</translation>
+    </message>
+    <message>
+        <source>Rust crate downloads</source>
+        <translation>Crates Rust téléchargées</translation>
+    </message>
+    <message>
+        <source>Dangling images, stopped containers, build cache</source>
+        <translation>Images orphelines, conteneurs arrêtés, cache de compilation</translation>
+    </message>
+    <message>
+        <source>IntelliJ/PyCharm/etc. caches</source>
+        <translation>Caches d’IntelliJ, PyCharm, etc.</translation>
+    </message>
+    <message>
+        <source>Old versions &amp; download cache</source>
+        <translation>Anciennes versions et cache des téléchargements</translation>
+    </message>
+    <message>
+        <source>SwiftPM, TypeScript, node-gyp</source>
+        <translation>Caches de SwiftPM, TypeScript et node-gyp</translation>
+    </message>
+    <message>
+        <source>puppeteer, huggingface, whisper, selenium</source>
+        <translation>puppeteer, huggingface, whisper et selenium</translation>
+    </message>
 </context>
 <context>
     <name>CleanupCategory</name>
@@ -385,10 +579,6 @@
         <translation>%1 éléments</translation>
     </message>
     <message>
-        <source>Clean </source>
-        <translation>Nettoyer : </translation>
-    </message>
-    <message>
         <source>Frees about %1. This data regenerates automatically.</source>
         <translation>Libère environ %1. Ces données se régénèrent automatiquement.</translation>
     </message>
@@ -415,6 +605,10 @@
     <message>
         <source>Clean</source>
         <translation>Nettoyer</translation>
+    </message>
+    <message>
+        <source>Clean %1</source>
+        <translation>Nettoyer %1</translation>
     </message>
 </context>
 <context>
@@ -631,6 +825,10 @@
     <message>
         <source>hidden</source>
         <translation>masqué</translation>
+    </message>
+    <message>
+        <source>(smaller items)</source>
+        <translation>(petits éléments)</translation>
     </message>
 </context>
 <context>
@@ -1465,6 +1663,41 @@
     <message>
         <source>Recommended — recover anything you change your mind about.</source>
         <translation>Recommandé — récupérez tout ce que vous regrettez.</translation>
+    </message>
+</context>
+<context>
+    <name>ScanPreset</name>
+    <message>
+        <source>Home</source>
+        <translation>Dossier personnel</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>Documents</translation>
+    </message>
+    <message>
+        <source>Downloads</source>
+        <translation>Téléchargements</translation>
+    </message>
+    <message>
+        <source>Desktop</source>
+        <translation>Bureau</translation>
+    </message>
+    <message>
+        <source>Applications</source>
+        <translation>Applications</translation>
+    </message>
+    <message>
+        <source>Whole Disk</source>
+        <translation>Disque entier</translation>
+    </message>
+    <message>
+        <source>Flatpak Apps</source>
+        <translation>Apps Flatpak</translation>
+    </message>
+    <message>
+        <source>App Data</source>
+        <translation>Données des apps</translation>
     </message>
 </context>
 <context>

@@ -1,5 +1,7 @@
 #include "Models/BuildArtifactType.h"
 
+#include "Platform/UserText.h"
+
 namespace {
 
 BuildArtifactType kind(std::string id, std::string label, std::vector<std::string> names, int maxDepth,
@@ -31,7 +33,8 @@ std::vector<BuildArtifactType> makeAll()
         kind("dart_tool", ".dart_tool", {".dart_tool"}, 5, {"pubspec.yaml"}),
         kind("venv", ".venv", {".venv", "venv"}, 4, {"pyproject.toml", "requirements.txt", "Pipfile", "setup.py"}),
         kind("pycache", "__pycache__", {"__pycache__"}, 8, {}),
-        kind("py_caches", "py caches", {".pytest_cache", ".mypy_cache", ".ruff_cache", ".tox"}, 6, {}),
+        kind("py_caches", QT_TRANSLATE_NOOP("BuildArtifactType", "py caches"),
+             {".pytest_cache", ".mypy_cache", ".ruff_cache", ".tox"}, 6, {}),
         kind("php_vendor", "vendor", {"vendor"}, 5, {"composer.json"}),
         kind("dotnet", "bin / obj", {"bin", "obj"}, 5, {"*.csproj", "*.sln", "*.fsproj", "*.vbproj"}),
         kind("elixir", "_build / deps", {"_build", "deps"}, 5, {"mix.exs"}),

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Models/CleanupTarget.h"
+#include "Platform/UserText.h"
 
 #include <string>
 #include <vector>
@@ -16,6 +17,6 @@ CleanupTarget command(std::string id, std::string name, std::string symbol, std:
                       std::string shell, std::vector<std::string> fallback);
 
 // The detail line every browser cache row shares.
-inline const std::string cachedWebData = "Cached web data — pages reload as needed";
+inline const std::string cachedWebData = QT_TRANSLATE_NOOP("CleanupCatalog", "Cached web data — pages reload as needed");
 
 }  // namespace CatalogRows

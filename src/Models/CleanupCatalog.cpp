@@ -3,6 +3,7 @@
 #include "Models/LinuxCatalog.h"
 #include "Models/MacOSCatalog.h"
 #include "Platform/Paths.h"
+#include "Platform/UserText.h"
 
 #include <algorithm>
 
@@ -87,18 +88,22 @@ std::vector<CleanupTarget> finderTargets(const std::vector<std::string>& roots,
                                          const std::vector<std::string>& ignore, int minAgeDays)
 {
     return {
-        finder("node_modules", "node_modules folders", "Reinstall with npm/yarn/pnpm install",
-               {"node_modules"}, 5, {}, roots, ignore, minAgeDays),
-        finder("next_build", "Next.js build output", ".next folders — rebuilt on next build", {".next"},
-               5, {}, roots, ignore, minAgeDays),
-        finder("rust_target", "Rust target folders",
-               "target/ next to Cargo.toml — rebuilt with cargo build", {"target"}, 4, {"Cargo.toml"},
+        finder("node_modules", QT_TRANSLATE_NOOP("CleanupCatalog", "node_modules folders"),
+               QT_TRANSLATE_NOOP("CleanupCatalog", "Reinstall with npm/yarn/pnpm install"), {"node_modules"}, 5, {},
                roots, ignore, minAgeDays),
-        finder("pycache", "Python __pycache__", "Bytecode caches — regenerated automatically",
-               {"__pycache__"}, 6, {}, roots, ignore, minAgeDays),
-        finder("venv", "Python virtualenvs", ".venv next to a manifest — recreate with pip install",
-               {".venv", "venv"}, 4, {"pyproject.toml", "requirements.txt", "Pipfile", "setup.py"},
-               roots, ignore, minAgeDays),
+        finder("next_build", QT_TRANSLATE_NOOP("CleanupCatalog", "Next.js build output"),
+               QT_TRANSLATE_NOOP("CleanupCatalog", ".next folders — rebuilt on next build"), {".next"}, 5, {}, roots,
+               ignore, minAgeDays),
+        finder("rust_target", QT_TRANSLATE_NOOP("CleanupCatalog", "Rust target folders"),
+               QT_TRANSLATE_NOOP("CleanupCatalog", "target/ next to Cargo.toml — rebuilt with cargo build"), {"target"},
+               4, {"Cargo.toml"}, roots, ignore, minAgeDays),
+        finder("pycache", QT_TRANSLATE_NOOP("CleanupCatalog", "Python __pycache__"),
+               QT_TRANSLATE_NOOP("CleanupCatalog", "Bytecode caches — regenerated automatically"), {"__pycache__"}, 6,
+               {}, roots, ignore, minAgeDays),
+        finder("venv", QT_TRANSLATE_NOOP("CleanupCatalog", "Python virtualenvs"),
+               QT_TRANSLATE_NOOP("CleanupCatalog", ".venv next to a manifest — recreate with pip install"),
+               {".venv", "venv"}, 4, {"pyproject.toml", "requirements.txt", "Pipfile", "setup.py"}, roots, ignore,
+               minAgeDays),
     };
 }
 

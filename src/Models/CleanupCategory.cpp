@@ -1,17 +1,19 @@
 #include "Models/CleanupCategory.h"
 
 #include "Models/RawValueLookup.h"
+#include "Platform/UserText.h"
 
 namespace CleanupCategories {
 
 std::string_view rawValue(CleanupCategory category)
 {
     switch (category) {
-    case CleanupCategory::recommended: return "Recommended";
-    case CleanupCategory::browsers: return "Browser caches";
-    case CleanupCategory::developer: return "Developer caches";
-    case CleanupCategory::buildArtifacts: return "Build artifacts";
-    case CleanupCategory::custom: return "Custom folders";
+    // Also the panel's headings, translated under their context.
+    case CleanupCategory::recommended: return QT_TRANSLATE_NOOP("CleanupCategory", "Recommended");
+    case CleanupCategory::browsers: return QT_TRANSLATE_NOOP("CleanupCategory", "Browser caches");
+    case CleanupCategory::developer: return QT_TRANSLATE_NOOP("CleanupCategory", "Developer caches");
+    case CleanupCategory::buildArtifacts: return QT_TRANSLATE_NOOP("CleanupCategory", "Build artifacts");
+    case CleanupCategory::custom: return QT_TRANSLATE_NOOP("CleanupCategory", "Custom folders");
     }
     return {};
 }

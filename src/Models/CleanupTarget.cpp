@@ -1,6 +1,7 @@
 #include "Models/CleanupTarget.h"
 
 #include "Platform/Paths.h"
+#include "Platform/UserText.h"
 
 namespace {
 
@@ -52,31 +53,39 @@ std::string CleanupTarget::whySafe() const
 {
     // Sentences that belong to one target come before the ones for its whole category.
     if (id == "trash")
-        return "These are items you already moved to the Trash.";
+        return QT_TRANSLATE_NOOP("CleanupCatalog", "These are items you already moved to the Trash.");
     if (id == "logs")
-        return "Old diagnostic logs. Apps write fresh ones as needed — nothing you use is lost.";
+        return QT_TRANSLATE_NOOP("CleanupCatalog",
+                                 "Old diagnostic logs. Apps write fresh ones as needed — nothing you use is lost.");
     if (id == "musiccache")
-        return "Streamed songs re-cache automatically the next time you play them.";
+        return QT_TRANSLATE_NOOP("CleanupCatalog",
+                                 "Streamed songs re-cache automatically the next time you play them.");
     if (id == "savedstate")
-        return "Apps just won't reopen last session's windows. It doesn't log you out or lose data.";
+        return QT_TRANSLATE_NOOP("CleanupCatalog",
+                                 "Apps just won't reopen last session's windows. It doesn't log you out or lose data.");
     if (id == "maildownloads")
-        return "Temp copies of attachments you opened. Re-copied on demand; originals stay on the server.";
+        return QT_TRANSLATE_NOOP("CleanupCatalog",
+                                 "Temp copies of attachments you opened. Re-copied on demand; originals stay on the server.");
     if (id == "docker")
-        return "Docker recreates images, layers and build cache the next time you build or pull.";
+        return QT_TRANSLATE_NOOP("CleanupCatalog",
+                                 "Docker recreates images, layers and build cache the next time you build or pull.");
     if (id == "node_modules")
-        return "Reinstalled instantly with npm / yarn / pnpm install.";
+        return QT_TRANSLATE_NOOP("CleanupCatalog", "Reinstalled instantly with npm / yarn / pnpm install.");
     if (id == "derived")
-        return "Xcode rebuilds DerivedData on your next build.";
+        return QT_TRANSLATE_NOOP("CleanupCatalog", "Xcode rebuilds DerivedData on your next build.");
     switch (category) {
     case CleanupCategory::custom:
-        return "A folder you added yourself — only its contents are cleared.";
+        return QT_TRANSLATE_NOOP("CleanupCatalog", "A folder you added yourself — only its contents are cleared.");
     case CleanupCategory::buildArtifacts:
-        return "Rebuilt the next time you build the project (npm install, cargo build, …).";
+        return QT_TRANSLATE_NOOP("CleanupCatalog",
+                                 "Rebuilt the next time you build the project (npm install, cargo build, …).");
     case CleanupCategory::developer:
-        return "Re-downloaded or rebuilt automatically the next time you build or install.";
+        return QT_TRANSLATE_NOOP("CleanupCatalog",
+                                 "Re-downloaded or rebuilt automatically the next time you build or install.");
     case CleanupCategory::recommended:
     case CleanupCategory::browsers:
         break;
     }
-    return "Apps and websites recreate these caches automatically when they next need them.";
+    return QT_TRANSLATE_NOOP("CleanupCatalog",
+                             "Apps and websites recreate these caches automatically when they next need them.");
 }

@@ -2,6 +2,7 @@
 
 #include "Platform/FileSystem.h"
 #include "Platform/Paths.h"
+#include "Platform/UserText.h"
 #include "Platform/XdgFolders.h"
 
 #include <string_view>
@@ -11,12 +12,12 @@ namespace {
 std::vector<ScanPreset> macOSPresets(const std::string& home)
 {
     return {
-        {Uuid::random(), "Home", "house", home},
-        {Uuid::random(), "Documents", "doc.text", home + "/Documents"},
-        {Uuid::random(), "Downloads", "arrow.down.circle", home + "/Downloads"},
-        {Uuid::random(), "Desktop", "menubar.dock.rectangle", home + "/Desktop"},
-        {Uuid::random(), "Applications", "app.badge", "/Applications"},
-        {Uuid::random(), "Whole Disk", "internaldrive", "/"},
+        {Uuid::random(), QT_TRANSLATE_NOOP("ScanPreset", "Home"), "house", home},
+        {Uuid::random(), QT_TRANSLATE_NOOP("ScanPreset", "Documents"), "doc.text", home + "/Documents"},
+        {Uuid::random(), QT_TRANSLATE_NOOP("ScanPreset", "Downloads"), "arrow.down.circle", home + "/Downloads"},
+        {Uuid::random(), QT_TRANSLATE_NOOP("ScanPreset", "Desktop"), "menubar.dock.rectangle", home + "/Desktop"},
+        {Uuid::random(), QT_TRANSLATE_NOOP("ScanPreset", "Applications"), "app.badge", "/Applications"},
+        {Uuid::random(), QT_TRANSLATE_NOOP("ScanPreset", "Whole Disk"), "internaldrive", "/"},
     };
 }
 
@@ -41,21 +42,24 @@ std::string flatpakApps()
 
 std::vector<ScanPreset> linuxPresets(const std::string& home)
 {
-    std::vector<ScanPreset> presets{{Uuid::random(), "Home", "house", home}};
+    std::vector<ScanPreset> presets{{Uuid::random(), QT_TRANSLATE_NOOP("ScanPreset", "Home"), "house", home}};
     const std::vector<ScanPreset> optional = {
-        {Uuid::random(), "Documents", "doc.text", userFolder("DOCUMENTS", home + "/Documents")},
-        {Uuid::random(), "Downloads", "arrow.down.circle", userFolder("DOWNLOAD", home + "/Downloads")},
-        {Uuid::random(), "Desktop", "menubar.dock.rectangle", userFolder("DESKTOP", home + "/Desktop")},
-        {Uuid::random(), "Applications", "app.badge", home + "/Applications"},
-        {Uuid::random(), "Flatpak Apps", "shippingbox", flatpakApps()},
-        {Uuid::random(), "App Data", "folder", home + "/.var/app"},
+        {Uuid::random(), QT_TRANSLATE_NOOP("ScanPreset", "Documents"), "doc.text",
+         userFolder("DOCUMENTS", home + "/Documents")},
+        {Uuid::random(), QT_TRANSLATE_NOOP("ScanPreset", "Downloads"), "arrow.down.circle",
+         userFolder("DOWNLOAD", home + "/Downloads")},
+        {Uuid::random(), QT_TRANSLATE_NOOP("ScanPreset", "Desktop"), "menubar.dock.rectangle",
+         userFolder("DESKTOP", home + "/Desktop")},
+        {Uuid::random(), QT_TRANSLATE_NOOP("ScanPreset", "Applications"), "app.badge", home + "/Applications"},
+        {Uuid::random(), QT_TRANSLATE_NOOP("ScanPreset", "Flatpak Apps"), "shippingbox", flatpakApps()},
+        {Uuid::random(), QT_TRANSLATE_NOOP("ScanPreset", "App Data"), "folder", home + "/.var/app"},
     };
     // A folder setting that points at the home itself switches that folder off.
     for (const ScanPreset& preset : optional) {
         if (preset.path != home && isFolder(preset.path))
             presets.push_back(preset);
     }
-    presets.push_back({Uuid::random(), "Whole Disk", "internaldrive", "/"});
+    presets.push_back({Uuid::random(), QT_TRANSLATE_NOOP("ScanPreset", "Whole Disk"), "internaldrive", "/"});
     return presets;
 }
 

@@ -3,6 +3,7 @@
 #include "Platform/ExecutablePath.h"
 #include "Platform/Subprocess.h"
 #include "Platform/TextTrim.h"
+#include "Platform/UserText.h"
 #include "Platform/Utf8.h"
 
 #include <utility>
@@ -16,7 +17,9 @@ constexpr int dismissedStatus = 126;
 Result failure(const std::string& output, bool cancelled = false)
 {
     const std::string_view message = TextTrim::trimmed(output);
-    return {false, cancelled, message.empty() ? "Authorization failed." : std::string(message)};
+    if (message.empty())
+        return {false, cancelled, QT_TRANSLATE_NOOP("AdminShell", "Authorization failed.")};
+    return {false, cancelled, std::string(message)};
 }
 
 std::string replacingAll(std::string_view text, char character, std::string_view replacement)
@@ -38,7 +41,8 @@ Result run(const std::string& line)
 {
     const auto pkexec = ExecutablePath::find("pkexec");
     if (!pkexec)
-        return failure("Administrator rights can't be asked for: pkexec isn't installed.");
+        return failure(
+            QT_TRANSLATE_NOOP("AdminShell", "Administrator rights can't be asked for: pkexec isn't installed."));
 
     Subprocess::Options options;
     options.executable = *pkexec;

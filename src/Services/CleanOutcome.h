@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Models/TrashedItem.h"
+#include "Platform/UserText.h"
 
 #include <cstdint>
 #include <optional>
@@ -10,6 +11,6 @@
 // What one clean achieved.
 struct CleanOutcome {
     std::int64_t freed = 0;              // measured drop of the target's size, never below 0
-    std::optional<std::string> error;    // for the user; none when all went well
+    std::optional<UserText> error;       // for the user; none when all went well
     std::vector<TrashedItem> trashed;
 };

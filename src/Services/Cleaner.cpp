@@ -4,6 +4,7 @@
 #include "Platform/OpenFolder.h"
 #include "Platform/Paths.h"
 #include "Platform/Trash.h"
+#include "Platform/UserText.h"
 #include "Services/Finder.h"
 #include "Services/Scanner.h"
 #include "Services/ShellRunner.h"
@@ -128,9 +129,9 @@ std::optional<std::string> validateCustom(const std::string& path)
 {
     const std::string resolved = Paths::resolvingSymlinks(Paths::expandingTilde(path));
     if (!FileSystem::infoFollowingLinks(resolved))
-        return "Folder doesn't exist.";
+        return QT_TRANSLATE_NOOP("Cleaner", "Folder doesn't exist.");
     if (!isSafe(resolved))
-        return "That location is protected and can't be cleaned.";
+        return QT_TRANSLATE_NOOP("Cleaner", "That location is protected and can't be cleaned.");
     return std::nullopt;
 }
 
@@ -138,9 +139,9 @@ namespace {
 
 constexpr double commandTimeoutSeconds = 180.0;
 
-std::string refused(const std::string& resolved)
+UserText refused(const std::string& resolved)
 {
-    return "Refused (protected): " + resolved;
+    return {QT_TRANSLATE_NOOP("Cleaner", "Refused (protected): %1"), {resolved}};
 }
 
 // Moves one entry of a checked folder to the Trash, or deletes it. What can't go to the Trash is
@@ -202,7 +203,7 @@ void removeExcept(const OpenFolder& folder, const std::string& name, const std::
 // it, which another target owns. The folder is opened once, right after the test, and everything
 // is removed through that: a component swapped for a link later on can't lead the removal
 // anywhere else.
-std::optional<std::string> removeContents(const std::string& path, bool moveToTrash,
+std::optional<UserText> removeContents(const std::string& path, bool moveToTrash,
                                           std::vector<TrashedItem>& trashed,
                                           const std::vector<std::string>& excluded = {}, bool isTrashRow = false)
 {
@@ -279,7 +280,9 @@ CleanOutcome cleanCommand(const CommandKind& kind, bool moveToTrash)
             removeContents(Paths::expandingTilde(path), moveToTrash, outcome.trashed);
         if (result.status != 127) {
             const std::string output = trimmed(result.output);
-            outcome.error = output.empty() ? "Command exited with status " + std::to_string(result.status) : output;
+            outcome.error = output.empty()
+                ? UserText{QT_TRANSLATE_NOOP("Cleaner", "Command exited with status %1"), {std::to_string(result.status)}}
+                : UserText{output};
         }
     }
     outcome.freed = freedBetween(before, Scanner::totalSize(kind.fallbackPaths));

@@ -57,7 +57,7 @@ QVariantList AboutModel::history() const
         return rows;
     for (const CleanRecord& record : model_->history()) {
         const bool restored = record.restored.value_or(false);
-        const QString name = CatalogWords::targetName(record.targetName);
+        const QString name = CatalogWords::recordedName(record.targetName);
         rows.append(QVariantMap{
             {"id", QString::fromStdString(record.id.string())},
             {"name", name},

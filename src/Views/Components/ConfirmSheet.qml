@@ -138,7 +138,7 @@ Item {
                 Label {
                     objectName: "confirmTitle"
                     Layout.fillWidth: true
-                    text: qsTr("Clean ") + root.title
+                    text: qsTr("Clean %1").arg(root.title)
                     font: Theme.headline
                     color: Theme.primary
                     wrapMode: Text.Wrap

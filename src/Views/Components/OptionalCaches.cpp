@@ -55,7 +55,7 @@ QVariantList OptionalCaches::rowsFor(PlatformProfile profile)
             {"id", QString::fromLatin1(cache.id)},
             {"setting", QString::fromLatin1(cache.setting)},
             {"symbol", QtConversions::toQt(row->symbol)},
-            {"title", CatalogWords::targetName(row->name)},
+            {"title", CatalogWords::name(*row)},
             {"caption", translated(cache.caption)},
             {"subtitle", translated(cache.subtitle)},
         });

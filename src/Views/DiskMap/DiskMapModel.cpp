@@ -51,9 +51,9 @@ void releaseElsewhere(DiskNode&& node)
     releaseElsewhere(std::move(nodes));
 }
 
-QVariantMap presetMap(const std::string& label, const std::string& symbol, const std::string& path)
+QVariantMap presetMap(const QString& label, const std::string& symbol, const std::string& path)
 {
-    return {{QStringLiteral("label"), toQt(label)}, {QStringLiteral("symbol"), toQt(symbol)},
+    return {{QStringLiteral("label"), label}, {QStringLiteral("symbol"), toQt(symbol)},
             {QStringLiteral("path"), toQt(path)}};
 }
 
@@ -219,14 +219,14 @@ QString DiskMapModel::selectedId() const { return selection_ ? toQt(selection_->
 
 QString DiskMapModel::selectedName() const
 {
-    return selection_ ? toQt(std::string(selection_->name())) : QString();
+    return selection_ ? DiskNodeText::name(*selection_) : QString();
 }
 
 QVariantList DiskMapModel::presets()
 {
     QVariantList list;
     for (const ScanPreset& preset : ScanPreset::all())
-        list.append(presetMap(preset.label, preset.symbol, preset.path));
+        list.append(presetMap(QtConversions::translated("ScanPreset", preset.label), preset.symbol, preset.path));
     return list;
 }
 
@@ -235,7 +235,7 @@ QVariantList DiskMapModel::volumes()
     constexpr const char* volumeSymbol = "externaldrive";
     QVariantList list;
     for (const Volumes::MountedVolume& volume : Volumes::mountedVolumes())
-        list.append(presetMap(volume.name, volumeSymbol, volume.path));
+        list.append(presetMap(toQt(volume.name), volumeSymbol, volume.path));
     return list;
 }
 

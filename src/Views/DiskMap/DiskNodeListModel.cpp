@@ -77,7 +77,7 @@ QVariant DiskNodeListModel::data(const QModelIndex& index, int role) const
         return {};
     const DiskNode& node = rows_[std::size_t(index.row())];
     // Each role is asked for on its own, many per row and frame; only what it needs is made.
-    const auto name = [&node] { return toQt(std::string(node.name())); };
+    const auto name = [&node] { return DiskNodeText::name(node); };
     const auto size = [&node] { return toQt(ByteCountFormatter::string(node.size())); };
     switch (role) {
     case IdRole: return toQt(node.id());

@@ -24,10 +24,16 @@ namespace {
 
 namespace DiskNodeText {
 
+QString name(const DiskNode& node)
+{
+    if (node.isSynthetic())
+        return QCoreApplication::translate("DiskMap", "(smaller items)");
+    return toQt(std::string(node.name()));
+}
+
 QString labelledName(const DiskNode& node)
 {
-    const QString name = toQt(std::string(node.name()));
-    return node.isDirectory() ? name + QLatin1Char('/') : name;
+    return node.isDirectory() ? name(node) + QLatin1Char('/') : name(node);
 }
 
 QString categoryLabel(FileCategory category)
@@ -69,7 +75,7 @@ QVariantMap describe(const DiskNode& node)
     return {
         {QStringLiteral("id"), toQt(node.id())},
         {QStringLiteral("displayId"), displayId(node)},
-        {QStringLiteral("name"), toQt(std::string(node.name()))},
+        {QStringLiteral("name"), name(node)},
         {QStringLiteral("labelledName"), labelledName(node)},
         {QStringLiteral("size"), qint64(node.size())},
         {QStringLiteral("sizeText"), toQt(ByteCountFormatter::string(node.size()))},

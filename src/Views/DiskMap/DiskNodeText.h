@@ -8,6 +8,9 @@
 // How the disk map words a node, the same in the map, the list, the detail bar and the menus.
 namespace DiskNodeText {
 
+// The name: a file's or folder's own, byte for byte; the node of a folder's small entries in the
+// user's language.
+QString name(const DiskNode& node);
 // The name, with "/" after a folder's: how tiles, tooltips and rows label it.
 QString labelledName(const DiskNode& node);
 // The category's label in the user's language.

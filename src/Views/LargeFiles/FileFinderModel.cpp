@@ -66,7 +66,7 @@ QVariantList FileFinderModel::presets()
 {
     QVariantList list;
     for (const ScanPreset& preset : ScanPreset::all()) {
-        list.append(QVariantMap{{QStringLiteral("label"), toQt(preset.label)},
+        list.append(QVariantMap{{QStringLiteral("label"), QtConversions::translated("ScanPreset", preset.label)},
                                 {QStringLiteral("symbol"), toQt(preset.symbol)},
                                 {QStringLiteral("path"), toQt(preset.path)}});
     }

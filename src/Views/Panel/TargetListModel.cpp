@@ -67,16 +67,16 @@ QVariant TargetListModel::data(const QModelIndex& index, int role) const
     const CleanupTarget& target = row.target;
     switch (role) {
     case IdRole: return toQt(target.id);
-    case NameRole: return CatalogWords::targetName(target.name);
+    case NameRole: return CatalogWords::name(target);
     case SymbolRole: return toQt(target.symbol);
-    case DetailRole: return toQt(target.detail);
+    case DetailRole: return CatalogWords::detail(target);
     case SizeTextRole: return row.size ? toQt(ByteCountFormatter::string(*row.size)) : QStringLiteral("—");
     case SizeBytesRole: return QVariant::fromValue<qint64>(row.size.value_or(-1));
     case IsScanningRole: return row.isScanning;
     case IsCleaningRole: return row.isCleaning;
     case IncludedRole: return source()->settings()->isEnabled(toQt(target.id));
     case SectionRole: return toQt(std::string(CleanupCategories::rawValue(target.category)));
-    case WhySafeRole: return toQt(target.whySafe());
+    case WhySafeRole: return CatalogWords::whySafe(target);
     case DisplayPathsRole: return toQt(target.displayPaths());
     default: return {};
     }

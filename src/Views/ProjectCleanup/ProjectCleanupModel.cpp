@@ -142,7 +142,7 @@ QVariantList ProjectCleanupModel::kindFacetList() const
     QVariantList list;
     for (const KindFacet& facet : kindFacets()) {
         list.append(QVariantMap{{QStringLiteral("id"), toQt(facet.id)},
-                                {QStringLiteral("label"), toQt(facet.label)},
+                                {QStringLiteral("label"), QtConversions::translated("BuildArtifactType", facet.label)},
                                 {QStringLiteral("count"), facet.count},
                                 {QStringLiteral("active"), activeKinds_.contains(facet.id)}});
     }

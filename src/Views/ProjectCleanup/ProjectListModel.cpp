@@ -148,7 +148,7 @@ QVariant ProjectListModel::data(const QModelIndex& index, int role) const
     case IsHeaderRole: return row.isHeader;
     case NameRole:
         return toQt(row.isHeader ? Paths::lastComponent(row.path) : ProjectDirText::projectName(row.path));
-    case KindRole: return toQt(row.kindLabel);
+    case KindRole: return QtConversions::translated("BuildArtifactType", row.kindLabel);
     case PathRole: return toQt(row.path);
     case DisplayPathRole: return toQt(Paths::abbreviatingWithTilde(row.path));
     case SizeTextRole: return toQt(ByteCountFormatter::string(row.size));

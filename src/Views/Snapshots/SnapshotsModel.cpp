@@ -4,6 +4,7 @@
 #include "Formatter.h"
 #include "MainThread.h"
 #include "Platform/ByteCountFormatter.h"
+#include "QtConversions.h"
 #include "Services/SnapshotManager.h"
 #include "WorkQueues.h"
 
@@ -138,7 +139,7 @@ void SnapshotsModel::finishRemoval(const Outcome& outcome, std::vector<LocalSnap
             : DesktopWords::current().snapshotsRemovedLater;
         break;
     case Outcome::Kind::failed:
-        message = tr("Couldn't remove snapshots: %1").arg(QString::fromStdString(outcome.message));
+        message = tr("Couldn't remove snapshots: %1").arg(QtConversions::translated("AdminShell", outcome.message));
         break;
     case Outcome::Kind::cancelled:
         message = tr("Cancelled — nothing was removed.");
