@@ -123,7 +123,11 @@ TEST_F(WindowRegistryTest, TheApplicationsWindowsOpenWithTheirTitlesAndFixedSize
     for (const Case& c : {Case{"confirm", "Confirm Cleanup", {}},
                           Case{"snapshots", "Free Up Snapshot Space", {520, 510}},
                           Case{"appupdates", "App & Tool Updates", {520, 480}},
-                          Case{"startup", "Startup & Background Items", {520, 480}}}) {
+                          Case{"startup", "Startup & Background Items", {520, 480}},
+                          Case{"projectcleanup", "Project Cleanup", {640, 520}},
+                          Case{"largefiles", "Large & Duplicate Files", {}},
+                          Case{"uninstaller", "Uninstall an App", {460, 520}},
+                          Case{"about", "About Mopwell", {440, 480}}}) {
         QQuickWindow* window = application.open(QString::fromLatin1(c.id));
         ASSERT_NE(window, nullptr) << c.id;
         EXPECT_EQ(window->title(), QString::fromUtf8(c.title));

@@ -26,11 +26,15 @@ Window {
         model: window.model
     }
 
-    // First in the content, as the window is sized from its first item.
-    ColumnLayout {
-        anchors.fill: parent
+    // First in the content, as the window is sized from its first item; a layout there would
+    // give the size of what it holds instead.
+    Item {
         implicitWidth: 440
         implicitHeight: 480
+    }
+
+    ColumnLayout {
+        anchors.fill: parent
         spacing: 0
 
         ColumnLayout {
