@@ -5,6 +5,7 @@
 #include "Services/Scanner.h"
 #include "Support/ModelFixture.h"
 #include "Support/PathsOf.h"
+#include "Support/TreeBuilder.h"
 
 #include <gmock/gmock.h>
 
@@ -41,12 +42,7 @@ protected:
         cleanup.scan();
         ASSERT_TRUE(waitUntil([&] { return !cleanup.isScanning(); }));
     }
-    int trashedCount() const
-    {
-        std::error_code error;
-        const fs::path files = Trash::homeTrashFolder() + "/files";
-        return fs::exists(files, error) ? int(std::distance(fs::directory_iterator(files), {})) : 0;
-    }
+    int trashedCount() const { return int(TreeBuilder::namesIn(Trash::homeTrashFolder() + "/files").size()); }
 
     ProjectCleanupModel cleanup;
 };
