@@ -1,15 +1,13 @@
 import QtQuick
 import QtTest
 import Mopwell
+import ".."
 
-TestCase {
+ViewTestCase {
     id: testCase
     name: "LargeFilesView"
-    when: windowShown
 
     Component { id: windowComponent; LargeFilesView {} }
-    Component { id: panelComponent; MenuPanelView {} }
-    SignalSpy { id: windowRequests; target: Shell; signalName: "windowRequested" }
 
     // Every file of one size has the same bytes here, so equal sizes are copies: three copies of
     // a film, two of a disk image, and three files of their own.
@@ -24,32 +22,13 @@ TestCase {
     }
 
     function open(model) {
-        const window = createTemporaryObject(windowComponent, null, { model: model })
-        verify(window !== null)
-        window.show()
-        window.requestActivate()
-        tryCompare(window, "active", true)
-        return window
-    }
-
-    function child(item, name) {
-        const found = findChild(item, name)
-        verify(found !== null, "no item named " + name)
-        return found
-    }
-
-    function menuItem(menu, name) {
-        for (let i = 0; i < menu.count; ++i) {
-            if (menu.itemAt(i).objectName === name)
-                return menu.itemAt(i)
-        }
-        fail("no menu item " + name)
+        return openWindow(windowComponent, { model: model })
     }
 
     // Scans the home folder the way a user does: the Scan menu's first place.
     function scanHome(window) {
-        mouseClick(child(window.contentItem, "scanMenuButton"))
-        const menu = child(window.contentItem, "toolbar").scanMenu
+        mouseClick(child(window, "scanMenuButton"))
+        const menu = child(window, "toolbar").scanMenu
         tryCompare(menu, "opened", true)
         mouseClick(menuItem(menu, "preset_Home"))
         tryCompare(window.finder, "hasScanned", true)
@@ -57,26 +36,29 @@ TestCase {
     }
 
     function rowsOf(window, listName) {
-        return child(child(window.contentItem, listName), "rows")
+        return child(child(window, listName), "rows")
     }
 
     function test_opensOnThePlaceholderWithNothingToTrash() {
         const window = open(support.freshModel())
-        compare(window.minimumWidth, 640)
-        compare(window.minimumHeight, 520)
-        const placeholder = child(window.contentItem, "placeholder")
+        const placeholder = child(window, "placeholder")
         verify(placeholder.visible)
         compare(child(placeholder, "emptyStateTitle").text, "Find large & duplicate files")
-        compare(child(placeholder, "emptyStateMessage").text,
-                "Pick a folder to scan for big files and byte-identical duplicates you can safely remove.")
-        compare(child(placeholder, "placeholderChooseFolder").text, "Choose Folder…")
-        verify(!child(window.contentItem, "tabPicker").visible)
-        verify(!child(window.contentItem, "rootPathLabel").visible)
-        compare(child(window.contentItem, "selectedCount").text, "0 selected")
-        compare(child(window.contentItem, "selectedSize").text, "Zero KB")
-        verify(!child(window.contentItem, "trashButton").enabled)
+        // The message wraps in its narrow column, and the button stands centred under it.
+        const message = child(placeholder, "emptyStateMessage")
+        compare(message.text, "Pick a folder to scan for big files and byte-identical duplicates you can safely remove.")
+        verify(message.width <= 340 && message.lineCount > 1)
+        const choose = child(placeholder, "placeholderChooseFolder")
+        compare(choose.text, "Choose Folder…")
+        const left = choose.mapToItem(placeholder, 0, 0).x
+        fuzzyCompare(left, placeholder.width - left - choose.width, 1)
+        verify(!child(window, "tabPicker").visible)
+        verify(!child(window, "rootPathLabel").visible)
+        compare(child(window, "selectedCount").text, "0 selected")
+        compare(child(window, "selectedSize").text, "Zero KB")
+        verify(!child(window, "trashButton").enabled)
         const labels = []
-        const menu = child(window.contentItem, "toolbar").scanMenu
+        const menu = child(window, "toolbar").scanMenu
         for (let i = 0; i < menu.count; ++i)
             labels.push(menu.itemAt(i).text ?? "")
         compare(labels, window.finder.presets.map(place => place.label).concat(["", "Choose Folder…"]))
@@ -88,9 +70,9 @@ TestCase {
         const window = open(support.freshModel())
         seed()
         scanHome(window)
-        verify(!child(window.contentItem, "placeholder").visible)
-        compare(child(window.contentItem, "rootPathLabel").text, "~")
-        verify(child(window.contentItem, "tabPicker").visible)
+        verify(!child(window, "placeholder").visible)
+        compare(child(window, "rootPathLabel").text, "~")
+        verify(child(window, "tabPicker").visible)
 
         const largest = rowsOf(window, "largestList")
         verify(largest.visible)
@@ -98,15 +80,18 @@ TestCase {
         compare(child(largest.itemAtIndex(0), "selectableRowTitle").text, "film.mov")
         compare(child(largest.itemAtIndex(6), "selectableRowSubtitle").text, "~/Documents/notes.txt")
         // Each group keeps the copy met first; the others stand ticked, here and in the footer.
-        compare(child(window.contentItem, "selectedCount").text, "3 selected")
-        compare(child(window.contentItem, "selectedSize").text, "8.5 MB")
+        compare(child(window, "selectedCount").text, "3 selected")
+        compare(child(window, "selectedSize").text, "8.5 MB")
         const ticked = []
         for (let i = 0; i < largest.count; ++i)
             ticked.push(child(largest.itemAtIndex(i), "selectableRowBox").checked)
         compare(ticked.filter(on => on).length, 3)
+        // Whatever its size, every row leaves its name the same room.
+        for (let i = 1; i < largest.count; ++i)
+            compare(child(largest.itemAtIndex(i), "selectableRowTitle").width, child(largest.itemAtIndex(0), "selectableRowTitle").width)
         verify(support.saveScreenshot(window.contentItem, "largefiles-largest"))
 
-        mouseClick(child(window.contentItem, "segment_1"))
+        mouseClick(child(window, "segment_1"))
         compare(window.tab, 1)
         const copies = rowsOf(window, "duplicateList")
         verify(copies.visible && !largest.visible)
@@ -123,10 +108,10 @@ TestCase {
         // A tick of the kept copy counts once in the footer, though the file is in both lists.
         mouseClick(kept)
         verify(kept.checked)
-        compare(child(window.contentItem, "selectedCount").text, "4 selected")
-        compare(child(window.contentItem, "selectedSize").text, "11.5 MB")
+        compare(child(window, "selectedCount").text, "4 selected")
+        compare(child(window, "selectedSize").text, "11.5 MB")
         mouseClick(kept)
-        compare(child(window.contentItem, "selectedCount").text, "3 selected")
+        compare(child(window, "selectedCount").text, "3 selected")
     }
 
     function test_moveToTrashMovesTheCopiesRecordsThemAndScansAgain() {
@@ -134,19 +119,19 @@ TestCase {
         const window = open(model)
         seed()
         scanHome(window)
-        const trashButton = child(window.contentItem, "trashButton")
+        const trashButton = child(window, "trashButton")
         verify(trashButton.enabled)
         mouseClick(trashButton)
         // Straight to the Trash, no question asked; then the folder is scanned again.
         tryCompare(window.finder, "isTrashing", false)
-        compare(support.countEntries(support.trashFolder() + "/files"), 3)
+        compare(trashedCount(), 3)
         compare(support.historyNames(model)[0], "3 files (duplicate/large)")
         tryCompare(window.finder, "hasScanned", true)
         compare(rowsOf(window, "largestList").count, 4)
-        compare(child(window.contentItem, "selectedCount").text, "0 selected")
+        compare(child(window, "selectedCount").text, "0 selected")
         verify(!trashButton.enabled)
-        mouseClick(child(window.contentItem, "segment_1"))
-        const empty = child(child(window.contentItem, "duplicateList"), "emptyResult")
+        mouseClick(child(window, "segment_1"))
+        const empty = child(child(window, "duplicateList"), "emptyResult")
         verify(empty.visible)
         compare(child(empty, "emptyStateTitle").text, "No duplicates found")
         compare(child(empty, "emptyStateMessage").text,
@@ -164,20 +149,14 @@ TestCase {
         verify(child(row, "revealButton").enabled)
     }
 
-    function test_thePanelsToolsOpenTheWindowOnTheirList() {
+    // The panel's Large Files and Duplicates buttons choose the list, before the window opens
+    // and while it is open.
+    function test_theWindowShowsTheListThePanelAskedFor() {
         const model = support.freshModel()
-        const panel = createTemporaryObject(panelComponent, null, { model: model })
-        panel.show()
-        waitForRendering(panel.contentItem)
-        windowRequests.clear()
-        mouseClick(child(panel.contentItem, "tool-doc.on.doc"))
-        compare(windowRequests.count, 1)
-        compare(windowRequests.signalArguments[0][0], "largefiles")
+        model.largeFilesTab = 1
         const window = open(model)
         compare(window.tab, 1)
-        // Already open, the window follows the other button too.
-        mouseClick(child(panel.contentItem, "tool-doc.text.magnifyingglass"))
-        compare(windowRequests.signalArguments[1][0], "largefiles")
+        model.largeFilesTab = 0
         compare(window.tab, 0)
     }
 }

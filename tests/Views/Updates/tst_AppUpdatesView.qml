@@ -1,11 +1,11 @@
 import QtQuick
 import QtTest
 import Mopwell
+import ".."
 
-TestCase {
+ViewTestCase {
     id: testCase
     name: "AppUpdatesView"
-    when: windowShown
 
     Component { id: windowComponent; AppUpdatesView {} }
 
@@ -34,22 +34,11 @@ TestCase {
     }
 
     function open() {
-        const window = createTemporaryObject(windowComponent, null, { model: testCase.appModel })
-        verify(window !== null)
-        window.show()
-        return window
-    }
-
-    function child(window, name) {
-        const item = findChild(window.contentItem, name)
-        verify(item !== null, "no item named " + name)
-        return item
+        return showWindow(windowComponent, { model: testCase.appModel })
     }
 
     function row(window, index) {
-        const list = child(window, "packageList")
-        tryVerify(() => list.itemAtIndex(index) !== null)
-        return list.itemAtIndex(index)
+        return rowOf(child(window, "packageList"), index)
     }
 
     function init() {
@@ -64,8 +53,6 @@ TestCase {
     function test_listsOutdatedPackagesWithTheirVersions() {
         installBrew()
         const window = open()
-        compare(window.width, 520)
-        compare(window.height, 480)
         tryCompare(window.updates, "stateName", "ready")
         compare(child(window, "packageList").count, 3)
         compare(row(window, 0).name, "Firefox")
@@ -105,8 +92,11 @@ TestCase {
         tryCompare(window.updates, "busy", false, 10000)
         compare(child(window, "status").text, "Done.")
         verify(support.toolCalls("brew").indexOf("[upgrade][--greedy]") >= 0)
-        verify(child(window, "upToDateState").visible)
-        compare(findChild(child(window, "upToDateState"), "emptyStateTitle").text, "Everything's up to date")
+        const upToDate = child(window, "upToDateState")
+        verify(upToDate.visible)
+        compare(findChild(upToDate, "emptyStateTitle").text, "Everything's up to date")
+        // Without a message or buttons, none takes room under the title.
+        verify(!findChild(upToDate, "emptyStateMessage").visible && !findChild(upToDate, "emptyStateActions").visible)
         verify(!child(window, "updateAll").enabled)
     }
 
