@@ -1,15 +1,13 @@
 import QtQuick
 import QtTest
 import Mopwell
+import ".."
 
-TestCase {
+ViewTestCase {
     id: testCase
     name: "UninstallerView"
-    when: windowShown
 
     Component { id: windowComponent; UninstallerView {} }
-    Component { id: panelComponent; MenuPanelView {} }
-    SignalSpy { id: windowRequests; target: Shell; signalName: "windowRequested" }
 
     readonly property string icon: '<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 64 64">' +
         '<rect x="4" y="4" width="56" height="56" rx="14" fill="#f28c28"/>' +
@@ -31,25 +29,14 @@ TestCase {
     function open() {
         const model = support.freshModel()
         seed()
-        const window = createTemporaryObject(windowComponent, null, { model: model })
-        verify(window !== null)
-        window.show()
-        window.requestActivate()
-        tryCompare(window, "active", true)
-        return window
+        return openWindow(windowComponent, { model: model })
     }
 
-    function child(parent, name) {
-        const item = findChild(parent, name)
-        verify(item !== null, "no item named " + name)
-        return item
-    }
-
-    function text(window, name) { return child(window.contentItem, name).text }
+    function text(window, name) { return child(window, name).text }
 
     // Through the chooser, as a user picks the app.
     function chooseFromList(window) {
-        mouseClick(child(window.contentItem, "chooseApp"))
+        mouseClick(child(window, "chooseApp"))
         tryCompare(window.appPicker, "opened", true)
         const row = child(window.appPicker.contentItem, "app_PhotoTool")
         compare(child(row, "listedName").text, "PhotoTool")
@@ -63,30 +50,15 @@ TestCase {
         waitForRendering(window.contentItem)
     }
 
-    function test_thePanelsUninstallToolOpensTheWindow() {
-        const panel = createTemporaryObject(panelComponent, null, { model: support.freshModel() })
-        panel.show()
-        waitForRendering(panel.contentItem)
-        windowRequests.clear()
-        mouseClick(child(panel.contentItem, "tool-xmark.bin"))
-        compare(windowRequests.count, 1)
-        compare(windowRequests.signalArguments[0][0], "uninstaller")
-    }
-
     function test_emptyWindowSaysWhatItDoesAndOffersTheChooser() {
         const window = open()
-        compare(window.width, 460)
-        compare(window.height, 520)
-        compare(window.minimumWidth, window.maximumWidth)
-        compare(window.minimumHeight, window.maximumHeight)
-        compare(window.title, "Uninstall an App")
-        verify(child(window.contentItem, "emptyArea").visible)
-        verify(!child(window.contentItem, "appArea").visible)
+        verify(child(window, "emptyArea").visible)
+        verify(!child(window, "appArea").visible)
         compare(text(window, "toolHeaderTitle"), "Uninstall an App")
         compare(text(window, "toolHeaderSubtitle"),
                 "Remove an app together with its leftover caches, preferences, and support files — all moved to the Trash, so you can undo it.")
         compare(text(window, "chooseApp"), "Choose App…")
-        verify(!child(window.contentItem, "resultMessage").visible)
+        verify(!child(window, "resultMessage").visible)
         waitForRendering(window.contentItem)
         support.saveScreenshot(window.contentItem, "uninstaller-empty")
     }
@@ -96,46 +68,43 @@ TestCase {
         chooseFromList(window)
         compare(text(window, "appName"), "PhotoTool")
         compare(text(window, "appIdentifier"), "phototool")
-        tryCompare(child(window.contentItem, "appIcon"), "status", Image.Ready)
+        tryCompare(child(window, "appIcon"), "status", Image.Ready)
         compare(text(window, "foundCount"), "6 found")
         compare(text(window, "selectedCount"), "6 selected")
         compare(text(window, "selectAll"), "Deselect All")
         const labels = window.uninstaller.items.map(item => item.label)
         compare(labels, ["Application", "Menu entry", "Preferences", "App cache", "Icon", "Launch agent"])
         compare(window.uninstaller.items[0].path, "~/Applications/PhotoTool.AppImage")
-        verify(child(window.contentItem, "moveToTrash").enabled)
+        verify(child(window, "moveToTrash").enabled)
         support.saveScreenshot(window.contentItem, "uninstaller-app")
 
-        mouseClick(child(window.contentItem, "chooseDifferent"))
-        verify(child(window.contentItem, "emptyArea").visible)
-        compare(window.uninstaller.itemCount, 0)
-    }
-
-    function test_selectAllSwitchesBetweenEverythingAndNothing() {
-        const window = open()
-        chooseFromList(window)
-        mouseClick(child(window.contentItem, "selectAll"))
+        // Select All switches between everything and nothing.
+        mouseClick(child(window, "selectAll"))
         compare(text(window, "selectedCount"), "0 selected")
         compare(text(window, "selectedSize"), "Zero KB")
         compare(text(window, "selectAll"), "Select All")
-        verify(!child(window.contentItem, "moveToTrash").enabled)
-        mouseClick(child(window.contentItem, "selectAll"))
+        verify(!child(window, "moveToTrash").enabled)
+        mouseClick(child(window, "selectAll"))
         compare(text(window, "selectedCount"), "6 selected")
+
+        mouseClick(child(window, "chooseDifferent"))
+        verify(child(window, "emptyArea").visible)
+        compare(window.uninstaller.itemCount, 0)
     }
 
     function test_movingTheChosenItemsToTheTrashRecordsThemAndTheyCanBePutBack() {
         const window = open()
         const model = window.model
         chooseFromList(window)
-        const cacheRow = child(window.contentItem, "itemRow_App cache")
+        const cacheRow = child(window, "itemRow_App cache")
         mouseClick(child(cacheRow, "itemBox"))
         compare(text(window, "selectedCount"), "5 selected")
         compare(text(window, "selectAll"), "Select All")
 
-        mouseClick(child(window.contentItem, "moveToTrash"))
+        mouseClick(child(window, "moveToTrash"))
         tryCompare(window.uninstaller, "hasApp", false)
-        verify(child(window.contentItem, "emptyArea").visible)
-        const message = child(window.contentItem, "resultMessage")
+        verify(child(window, "emptyArea").visible)
+        const message = child(window, "resultMessage")
         verify(message.visible)
         verify(/^Removed PhotoTool — freed .+\. Items are in the Trash\.$/.test(message.text), message.text)
         verify(!support.exists("Applications/PhotoTool.AppImage"))
@@ -156,7 +125,7 @@ TestCase {
         const window = open()
         window.uninstaller.messageLifetime = 400
         chooseFromList(window)
-        mouseClick(child(window.contentItem, "moveToTrash"))
+        mouseClick(child(window, "moveToTrash"))
         tryVerify(() => text(window, "resultMessage").startsWith("Removed PhotoTool"))
         // A refusal replaces the result before the result's time is up, and outlives it.
         window.uninstaller.load("/usr/bin/env")
@@ -168,8 +137,8 @@ TestCase {
 
         seed()
         chooseFromList(window)
-        mouseClick(child(window.contentItem, "moveToTrash"))
+        mouseClick(child(window, "moveToTrash"))
         tryVerify(() => text(window, "resultMessage").startsWith("Removed PhotoTool"))
-        tryCompare(child(window.contentItem, "resultMessage"), "visible", false, 3000)
+        tryCompare(child(window, "resultMessage"), "visible", false, 3000)
     }
 }
