@@ -1,11 +1,11 @@
 import QtQuick
 import QtTest
 import Mopwell
+import ".."
 
-TestCase {
+ViewTestCase {
     id: testCase
     name: "SnapshotsView"
-    when: windowShown
 
     Component { id: windowComponent; SnapshotsView {} }
 
@@ -27,24 +27,13 @@ TestCase {
     }
 
     function open() {
-        const window = createTemporaryObject(windowComponent, null, { model: testCase.appModel })
-        verify(window !== null)
-        window.show()
-        waitForRendering(window.contentItem)   // the listing starts once the window is shown
+        const window = showWindow(windowComponent, { model: testCase.appModel })   // the listing starts once shown
         tryCompare(window.snapshots, "isLoading", false)
         return window
     }
 
-    function child(window, name) {
-        const item = findChild(window.contentItem, name)
-        verify(item !== null, "no item named " + name)
-        return item
-    }
-
     function row(window, index) {
-        const list = child(window, "snapshotList")
-        tryVerify(() => list.itemAtIndex(index) !== null)
-        return list.itemAtIndex(index)
+        return rowOf(child(window, "snapshotList"), index)
     }
 
     // A fresh home first: the stubs' profile files go into it.
@@ -60,8 +49,6 @@ TestCase {
     function test_theNewestIsKeptAndTheRestWillBeRemoved() {
         installSnapper(3)
         const window = open()
-        compare(window.width, 520)
-        compare(window.height, 510)
         compare(child(window, "snapshotList").count, 3)
         compare(child(window, "snapshotCount").text, "3 local snapshots")
         const reclaimable = child(window, "reclaimable")

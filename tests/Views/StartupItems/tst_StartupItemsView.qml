@@ -1,11 +1,11 @@
 import QtQuick
 import QtTest
 import Mopwell
+import ".."
 
-TestCase {
+ViewTestCase {
     id: testCase
     name: "StartupItemsView"
-    when: windowShown
 
     Component { id: windowComponent; StartupItemsView {} }
 
@@ -16,23 +16,11 @@ TestCase {
     }
 
     function open() {
-        const window = createTemporaryObject(windowComponent, null, { model: testCase.appModel })
-        verify(window !== null)
-        window.show()
-        waitForRendering(window.contentItem)   // the list is read once the window is shown
-        return window
-    }
-
-    function child(window, name) {
-        const item = findChild(window.contentItem, name)
-        verify(item !== null, "no item named " + name)
-        return item
+        return showWindow(windowComponent, { model: testCase.appModel })   // the list is read once shown
     }
 
     function row(window, index) {
-        const list = child(window, "itemList")
-        tryVerify(() => list.itemAtIndex(index) !== null)
-        return list.itemAtIndex(index)
+        return rowOf(child(window, "itemList"), index)
     }
 
     function init() {
@@ -46,8 +34,6 @@ TestCase {
             '<?xml version="1.0"?><plist version="1.0"><dict><key>Label</key><string>com.example.agent</string>'
             + '<key>ProgramArguments</key><array><string>/opt/agent</string></array></dict></plist>')
         const window = open()
-        compare(window.width, 520)
-        compare(window.height, 480)
         compare(child(window, "itemList").count, 3)
         compare(row(window, 0).label, "com.example.agent")
         compare(row(window, 0).program, "/opt/agent")
