@@ -3,9 +3,6 @@
 #include "Support/AppModelTestAccess.h"
 #include "Support/ModelFixture.h"
 
-#include <QDir>
-#include <QPainter>
-
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -161,35 +158,6 @@ TEST_F(StatusGaugeTest, ItDrawsAgainOnlyWhenWhatItShowsChangesAndKeepsTheTextInT
     EXPECT_EQ(item.image().deviceIndependentSize(), QSizeF(StatusItem::height, StatusItem::height));
     settings.setMenuBarDisplay(MenuBarDisplay::icon);
     EXPECT_EQ(item.toolTip(), QString());
-}
-
-// The pictures for the documentation: the gauge at the three common tray sizes, on a light and on
-// a dark status area, each beside a four-times enlargement.
-TEST_F(StatusGaugeTest, SavesPicturesOfTheGaugeAtTraySizes)
-{
-    const std::vector<StatusItem::Gauge> states = {
-        {38, "green", false, false}, {81, "orange", false, false}, {93, "red", false, false}, {97, "red", true, false}};
-    for (const bool dark : {false, true}) {
-        const int sizes[] = {16, 22, 24};
-        const int cell = 24 * 5 + 24, rowHeight = 24 * 4 + 16;
-        QImage sheet(cell * static_cast<int>(states.size()) + 16, rowHeight * 3 + 16, QImage::Format_ARGB32);
-        sheet.fill(dark ? QColor("#2b2b2d") : QColor("#f2f2f4"));
-        QPainter painter(&sheet);
-        for (int row = 0; row < 3; ++row) {
-            for (std::size_t column = 0; column < states.size(); ++column) {
-                StatusItem::Gauge gauge = states[column];
-                gauge.dark = dark;
-                const QImage image = StatusItem::drawGauge(gauge, sizes[row], 1.0);
-                const QPoint origin(8 + static_cast<int>(column) * cell, 8 + row * rowHeight);
-                painter.drawImage(origin + QPoint(0, (24 * 4 - sizes[row]) / 2), image);
-                painter.drawImage(QRect(origin + QPoint(32, 0), QSize(sizes[row] * 4, sizes[row] * 4)), image);
-            }
-        }
-        painter.end();
-        QDir().mkpath(QStringLiteral(MOPWELL_SCREENSHOT_DIR));
-        const QString name = dark ? QStringLiteral("statusitem-gauge-dark") : QStringLiteral("statusitem-gauge-light");
-        EXPECT_TRUE(sheet.save(QStringLiteral(MOPWELL_SCREENSHOT_DIR "/") + name + QStringLiteral(".png")));
-    }
 }
 
 }  // namespace
