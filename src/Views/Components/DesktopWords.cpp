@@ -52,11 +52,10 @@ DesktopWords::Words DesktopWords::forProfile(PlatformProfile profile)
     };
 }
 
-const DesktopWords::Words& DesktopWords::current()
+DesktopWords::Words DesktopWords::current()
 {
-    // Read once, after the translator for the stored language is installed at start.
-    static const Words words = forProfile(currentPlatformProfile());
-    return words;
+    // Looked up at every reading, so they follow the translator installed at the time.
+    return forProfile(currentPlatformProfile());
 }
 
 DesktopWords* DesktopWords::create(QQmlEngine*, QJSEngine*)

@@ -68,8 +68,8 @@ public:
 
     // The words of `profile`, translated into the running language.
     static Words forProfile(PlatformProfile profile);
-    // The words of this build's desktop.
-    static const Words& current();
+    // The words of this build's desktop, in the running language.
+    static Words current();
 
     static DesktopWords* create(QQmlEngine* engine, QJSEngine* scriptEngine);
 
