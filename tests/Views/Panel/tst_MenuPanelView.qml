@@ -100,9 +100,20 @@ TestCase {
         }
     }
 
-    function test_theInfoButtonSaysWhyARowIsSafeAndWhereItLives() {
+    function test_theInfoButtonSaysWhyARowIsSafeAndWhereItLives_data() {
+        return [
+            { tag: "English", language: "", picture: "panel-info",
+              why: "Apps and websites recreate these caches automatically when they next need them." },
+            { tag: "German", language: "de", picture: "panel-german-info",
+              why: "Apps und Websites legen diese Caches automatisch neu an, sobald sie sie wieder brauchen." },
+        ]
+    }
+
+    function test_theInfoButtonSaysWhyARowIsSafeAndWhereItLives(data) {
+        support.setLanguage(data.language)
         const panel = makePanel(true, true)
-        verify(support.saveScreenshot(panel.contentItem, "panel-developer"))
+        if (data.language === "")
+            verify(support.saveScreenshot(panel.contentItem, "panel-developer"))
         const list = findChild(panel, "targets")
         const appCaches = list.itemAtIndex(1)                   // "App cache files"
         const info = findChild(appCaches, "info")
@@ -110,8 +121,9 @@ TestCase {
         const why = findChild(appCaches, "whySafe")
         verify(why !== null)
         tryCompare(why, "visible", true)
-        compare(why.text, "Apps and websites recreate these caches automatically when they next need them.")
-        verify(support.saveScreenshot(panel.contentItem, "panel-info"))
+        compare(why.text, data.why)
+        verify(support.saveScreenshot(panel.contentItem, data.picture))
+        support.setLanguage("")
     }
 
     function test_excludedRowsAreDimmedAndLeaveTheTotal() {
@@ -126,9 +138,8 @@ TestCase {
         compare(findChild(logsRow, "name").parent.opacity, 0.5)
     }
 
-    // What a Linux user sees first: every group measured from the home's own folders. The clean
-    // goes from the button through the confirmation and back to the panel; what it moves to the
-    // Trash and what it leaves, AppModelLinuxHomeTest says file by file.
+    // What a Linux user sees first: every group measured from the home's own folders, and the
+    // clean from the button through the confirmation, with what it moves and what it leaves.
     function test_aLinuxHomeIsMeasuredGroupByGroupAndCleanedThroughTheConfirmation() {
         const panel = makePanel(false, true)
         const model = panel.model
@@ -157,7 +168,14 @@ TestCase {
         tryVerify(() => textOf(panel, "statusText").startsWith("Freed"), 10000)
         verify(/^Freed .+ total$/.test(textOf(panel, "statusText")))
         verify(findChild(panel, "status").visible)
-        compare(support.countEntries(support.home + "/.cache/thumbnails"), 0)
+        // The caches went to the Trash, whose old items are gone for good; the Firefox profile
+        // and the developer caches, which simple mode leaves, stayed.
+        for (const folder of [".local/share/xorg", ".cache/thumbnails", ".cache/mozilla/firefox"])
+            compare(support.countEntries(support.home + "/" + folder), 0, folder)
+        verify(support.countEntries(support.trashFolder() + "/files") >= 6)
+        verify(!support.exists(".local/share/Trash/files/old report.pdf"))
+        compare(support.countEntries(support.home + "/.mozilla/firefox/k3x9q2z1.default-release"), 2)
+        compare(support.countEntries(support.home + "/.npm/_cacache"), 1)
         verify(support.saveScreenshot(panel.contentItem, "panel-after-clean"))
     }
 
