@@ -229,6 +229,18 @@ DiskNode DiskNode::makeEntry(const Path& folder, std::string_view name, std::int
                              FileCategory category, std::optional<Clock::TimePoint> modified,
                              std::span<DiskNode> children)
 {
+    // Files, most of any tree, take the short way: no Extra, the name as the tail, from a slab.
+    if (children.empty() && sizeof(Record) + name.size() <= NodeSlabs::largestCut) {
+        auto* record = new (NodeSlabs::take(sizeof(Record) + name.size())) Record;
+        record->tailLength = static_cast<std::uint16_t>(name.size());
+        record->category = static_cast<std::uint8_t>(category);
+        record->flags = (isDirectory ? directoryFlag : 0) | (modified ? modifiedFlag : 0);
+        record->size = size;
+        record->modified = modified ? modified->time_since_epoch().count() : 0;
+        record->prefix = folder;
+        copied(name, reinterpret_cast<char*>(record + 1));
+        return DiskNode(record);
+    }
     DiskNode made = allocate(folder, name, {}, size, isDirectory ? directoryFlag : 0, category, modified,
                              children.size());
     if (!children.empty())
