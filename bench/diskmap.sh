@@ -16,6 +16,9 @@
 #   BASELINE=/tmp/mopwell-scan.old bench/diskmap.sh   also times an earlier build of mopwell-scan in
 #                                       the same run, and checks that both print the same JSON
 #
+# "mopwell-scan, no read-ahead" is the same walk with its helper threads kept from starting on an
+# uncached tree (they never start on a cached one).
+#
 # Other work on the machine skews the figures: run it holding the build lock, so no build or test
 # runs meanwhile, and run it more than once.
 #   flock /tmp/mopwell-build.lock bench/diskmap.sh
@@ -41,13 +44,14 @@ empty=$(mktemp -d)
 work=$(mktemp -d)
 trap 'rm -rf "$empty" "$work"' EXIT
 
-order=(floor "du -s" "ncdu -o /dev/null -x" "gdu -n -p" "mopwell-scan diskmap")
+order=(floor "du -s" "ncdu -o /dev/null -x" "gdu -n -p" "mopwell-scan diskmap" "mopwell-scan, no read-ahead")
 declare -A commands=(
   [floor]="$build/bench/walk-floor"
   ["du -s"]="du -s"
   ["ncdu -o /dev/null -x"]="ncdu -o /dev/null -x"
   ["gdu -n -p"]="gdu -n -p"
   ["mopwell-scan diskmap"]="$build/tools/mopwell-scan diskmap"
+  ["mopwell-scan, no read-ahead"]="$build/tools/mopwell-scan diskmap --no-read-ahead"
 )
 if [ -n "${BASELINE:-}" ]; then
   order+=("baseline diskmap")
@@ -118,7 +122,7 @@ peak_kb() {  # the highest resident set of one run, in KB
 print_memory() {
   local tree=$1 items=$2
   for name in "${order[@]}"; do
-    [ "$name" = floor ] && continue
+    [ "$name" = floor ] || [ "$name" = "mopwell-scan, no read-ahead" ] && continue
     local best="" kb base
     for _ in 1 2 3; do
       kb=$(peak_kb "${commands[$name]}" "$tree")
@@ -142,6 +146,17 @@ for shape in "${shapes[@]}"; do
       echo "  the baseline prints the same JSON, byte for byte"
     else
       echo "  THE BASELINE PRINTS DIFFERENT JSON"
+    fi
+  fi
+  if [ "$cold" = 1 ]; then
+    # Read-ahead starts only on a tree the cache doesn't hold: compare from cold caches.
+    drop_caches() { sync; echo 3 >/proc/sys/vm/drop_caches; }
+    drop_caches; "$build/tools/mopwell-scan" diskmap "$tree" --json >"$work/ahead.json"
+    drop_caches; "$build/tools/mopwell-scan" diskmap "$tree" --json --no-read-ahead >"$work/plain.json"
+    if cmp -s "$work/ahead.json" "$work/plain.json"; then
+      echo "  from a cold cache, the same JSON with and without read-ahead, byte for byte"
+    else
+      echo "  FROM A COLD CACHE, READ-AHEAD CHANGES THE JSON"
     fi
   fi
   time_all "$tree" warm

@@ -3,11 +3,12 @@
 //
 //   mopwell-scan size PATH         byte total of PATH, as the cleanup targets are measured
 //   mopwell-scan projects ROOT...  one line per build folder found: kind id, bytes, path
-//   mopwell-scan diskmap PATH [--json] [--profile macos|linux]
+//   mopwell-scan diskmap PATH [--json] [--profile macos|linux] [--no-read-ahead]
 //                                  the disk map's walk of PATH: bytes, items and time taken, or
 //                                  with --json the whole tree as the map holds it; hidden entries
 //                                  are in it as the desktop's map shows them (a Mac's map leaves
-//                                  them out)
+//                                  them out); --no-read-ahead keeps the helper threads that read
+//                                  ahead of a walk through an uncached tree from starting
 //   mopwell-scan targets [--developer] [--json] [--profile macos|linux]
 //                                  the targets the panel lists for the user's settings, measured,
 //                                  and the reclaimable total; reads only
@@ -44,7 +45,7 @@ namespace {
 int usage()
 {
     std::fprintf(stderr, "usage: mopwell-scan size PATH\n       mopwell-scan projects ROOT...\n"
-                         "       mopwell-scan diskmap PATH [--json] [--profile macos|linux]\n"
+                         "       mopwell-scan diskmap PATH [--json] [--profile macos|linux] [--no-read-ahead]\n"
                          "       mopwell-scan targets [--developer] [--json] [--profile macos|linux]\n"
                          "       mopwell-scan dups PATH [--json] [--reference] [--stats]\n");
     return 2;
@@ -114,6 +115,7 @@ int printDiskMap(const std::string& path, const std::vector<std::string>& flags)
 {
     bool asJson = false;
     PlatformProfile profile = currentPlatformProfile();
+    auto readAhead = DirectoryWalker::ReadAheadMode::whenCold;
     for (std::size_t i = 0; i < flags.size(); ++i) {
         const auto named = flags[i] == "--profile" && i + 1 < flags.size() ? platformProfileNamed(flags[++i])
                                                                             : std::nullopt;
@@ -121,6 +123,8 @@ int printDiskMap(const std::string& path, const std::vector<std::string>& flags)
             profile = *named;
         else if (flags[i] == "--json")
             asJson = true;
+        else if (flags[i] == "--no-read-ahead")
+            readAhead = DirectoryWalker::ReadAheadMode::off;
         else
             return usage();
     }
@@ -130,7 +134,7 @@ int printDiskMap(const std::string& path, const std::vector<std::string>& flags)
     // stays reachable, so leak checkers don't report it.
     static const DiskNode* const tree =
         new DiskNode(DiskMapScanner::scanStreaming(path, std::make_shared<CancelToken>(), {}, {},
-                                                   DiskMapScanner::hiddenEntriesOn(profile)));
+                                                   DiskMapScanner::hiddenEntriesOn(profile), readAhead));
     const DiskNode& root = *tree;
     const std::chrono::duration<double> elapsed = std::chrono::steady_clock::now() - start;
     if (asJson) {

@@ -1,12 +1,14 @@
 #include "Platform/DirectoryWalker.h"
 
 #include "Platform/PosixItemInfo.h"
+#include "Platform/ReadAhead.h"
 
 #include <algorithm>
 #include <cstring>
 #include <dirent.h>
 #include <fcntl.h>
 #include <string>
+#include <memory>
 #include <sys/resource.h>
 #include <unistd.h>
 #include <vector>
@@ -88,10 +90,17 @@ bool sameItem(int descriptor, std::uint64_t device, std::uint64_t inode)
            static_cast<std::uint64_t>(status.st_ino) == inode;
 }
 
+// Blocks this thread has read from the disk so far, metadata included.
+long blocksRead()
+{
+    struct rusage usage {};
+    return getrusage(RUSAGE_THREAD, &usage) == 0 ? usage.ru_inblock : 0;
+}
+
 class Walk {
 public:
-    explicit Walk(DirectoryWalker::Visitor& visitor)
-        : visitor_(visitor), buffer_(listingBufferWords), openDepthLimit_(openDepthLimit())
+    Walk(DirectoryWalker::Visitor& visitor, DirectoryWalker::ReadAheadMode readAhead)
+        : visitor_(visitor), buffer_(listingBufferWords), openDepthLimit_(openDepthLimit()), readAheadMode_(readAhead)
     {
     }
 
@@ -110,8 +119,11 @@ public:
         if (fstat(rootDescriptor, &status) != 0 || !S_ISDIR(status.st_mode))
             return false;
         const ItemInfo info = itemInfoFrom(status);
+        blocksAtStart_ = readAheadMode_ == DirectoryWalker::ReadAheadMode::whenCold ? blocksRead() : 0;
         std::uint64_t self = 0;
-        if (!appendListing(rootDescriptor, names_, buffer_, self) && !visitor_.walksPartialListings()) {
+        const bool whole = appendListing(rootDescriptor, names_, buffer_, self);
+        considerReadingAhead();
+        if (!whole && !visitor_.walksPartialListings()) {
             names_.clear();
             visitor_.unreadable({-1, {}, info, 0});
             return false;
@@ -140,9 +152,27 @@ private:
 
     std::string_view nameAt(std::size_t start, std::size_t length) const { return {names_.data() + start, length}; }
 
+    // Entries between two looks at whether the walk reads from the disk.
+    static constexpr std::uint32_t entriesBetweenLooks = 512;
+    // Blocks read (of 512 bytes) that mean the tree is not in the cache.
+    static constexpr long coldBlocks = 64;
+
+    // Starts the helpers for `always`, or for `whenCold` once the walk has read from the disk.
+    void considerReadingAhead()
+    {
+        if (readAhead_ || readAheadMode_ == DirectoryWalker::ReadAheadMode::off)
+            return;
+        if (readAheadMode_ == DirectoryWalker::ReadAheadMode::always || blocksRead() - blocksAtStart_ >= coldBlocks)
+            readAhead_ = std::make_unique<ReadAhead>(borrowed_);
+    }
+
     // Handles the entry at `start` in the listing of the folder at `level`; false ends the walk.
     bool step(std::size_t level, std::size_t start, std::size_t length)
     {
+        if (++entriesSinceLook_ == entriesBetweenLooks) {
+            entriesSinceLook_ = 0;
+            considerReadingAhead();
+        }
         const Frame& parent = stack_[level];
         struct stat status {};
         if (fstatat(parent.descriptor, names_.c_str() + start, &status, AT_SYMLINK_NOFOLLOW) != 0) {
@@ -187,6 +217,8 @@ private:
             close(parent.descriptor);
             parent.descriptor = -1;
         }
+        if (readAhead_)
+            readAhead_->entered();
         stack_.push_back({descriptor, depth, info.device, info.inode, static_cast<std::uint32_t>(start),
                           static_cast<std::uint32_t>(length), static_cast<std::uint32_t>(listingStart),
                           static_cast<std::uint32_t>(listingStart)});
@@ -236,6 +268,10 @@ private:
     std::vector<std::uint64_t> buffer_;  // the kernel's records of one read, 8-byte aligned
     int borrowed_ = -1;
     const int openDepthLimit_;
+    const DirectoryWalker::ReadAheadMode readAheadMode_;
+    long blocksAtStart_ = 0;
+    std::uint32_t entriesSinceLook_ = 0;
+    std::unique_ptr<ReadAhead> readAhead_;  // reads below the root's descriptor, which outlives the walk
 };
 
 }  // namespace
@@ -250,7 +286,7 @@ bool DirectoryWalker::walk(const std::string& root, Visitor& visitor)
     return completed;
 }
 
-bool DirectoryWalker::walkDescriptor(int folderDescriptor, Visitor& visitor)
+bool DirectoryWalker::walkDescriptor(int folderDescriptor, Visitor& visitor, ReadAheadMode readAhead)
 {
-    return Walk(visitor).run(folderDescriptor);
+    return Walk(visitor, readAhead).run(folderDescriptor);
 }

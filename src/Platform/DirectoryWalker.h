@@ -15,6 +15,11 @@ class DirectoryWalker {
 public:
     enum class Action { descend, skip, stop };
 
+    // Whether helper threads read listings and metadata ahead of the walk (Platform/ReadAhead),
+    // which changes nothing the visitor sees: `whenCold` starts them once the walk has had to
+    // read from the disk, as a warm cache gains nothing from them; `always` is for tests.
+    enum class ReadAheadMode { off, whenCold, always };
+
     struct Entry {
         int parentDescriptor;  // the open folder holding the entry; valid during the call only
         std::string_view name;
@@ -50,5 +55,5 @@ public:
     static bool walk(const std::string& root, Visitor& visitor);
 
     // The same below an already open folder, which the walker does not close.
-    static bool walkDescriptor(int folderDescriptor, Visitor& visitor);
+    static bool walkDescriptor(int folderDescriptor, Visitor& visitor, ReadAheadMode readAhead = ReadAheadMode::off);
 };

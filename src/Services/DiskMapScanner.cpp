@@ -319,7 +319,8 @@ DiskNode::Path prefixOf(const std::string& path)
 }  // namespace
 
 DiskNode scanStreaming(const std::string& root, const std::shared_ptr<CancelToken>& token,
-                       const Progress& onProgress, const ChildHandler& onChild, HiddenEntries hidden)
+                       const Progress& onProgress, const ChildHandler& onChild, HiddenEntries hidden,
+                       DirectoryWalker::ReadAheadMode readAhead)
 {
     const std::string path = normalisedRoot(root);
     const std::string lastComponent = Paths::lastComponent(path);
@@ -340,7 +341,7 @@ DiskNode scanStreaming(const std::string& root, const std::shared_ptr<CancelToke
         return emptyFolder(prefix, name);
 
     TreeGatherer gatherer(path, token.get(), onProgress, onChild, hidden);
-    DirectoryWalker::walkDescriptor(descriptor, gatherer);
+    DirectoryWalker::walkDescriptor(descriptor, gatherer, readAhead);
     close(descriptor);
     if (gatherer.rootUnreadable())
         return emptyFolder(prefix, name);

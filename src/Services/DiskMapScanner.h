@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Models/DiskNode.h"
+#include "Platform/DirectoryWalker.h"
 #include "Platform/PlatformProfile.h"
 #include "Services/CancelToken.h"
 
@@ -38,9 +39,13 @@ constexpr HiddenEntries hiddenEntriesOn(PlatformProfile profile)
 // Never fails: a root that is a file comes back as a file node, one that can't be listed as an
 // empty folder, and a cancelled scan returns what it gathered, with every folder's size the sum
 // of what it holds (the caller is expected to drop it).
+//
+// On a tree the cache doesn't hold, helper threads read ahead of the walk; what the walk finds,
+// and so the tree and the order of the streamed entries, is the same with or without them.
 DiskNode scanStreaming(const std::string& root, const std::shared_ptr<CancelToken>& token,
                        const Progress& onProgress, const ChildHandler& onChild,
-                       HiddenEntries hidden = hiddenEntriesOn(currentPlatformProfile()));
+                       HiddenEntries hidden = hiddenEntriesOn(currentPlatformProfile()),
+                       DirectoryWalker::ReadAheadMode readAhead = DirectoryWalker::ReadAheadMode::whenCold);
 
 // The folding rule, given a folder's entries largest first and its size: entries from the 61st
 // on, and those below 0.4 % of `parentTotal` (truncated to whole bytes), move below one

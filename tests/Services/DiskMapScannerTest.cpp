@@ -219,6 +219,10 @@ TEST_F(DiskMapScannerTest, OnALinuxDesktopHiddenEntriesAreMappedLikeAnyOther)
         names.push_back(std::string(child.name()));
     EXPECT_THAT(names, ElementsAre(".local", ".cache", ".dotfile", "visible.txt"));
     EXPECT_EQ(root.size(), Scanner::directorySize(path("root")));
+    EXPECT_EQ(DiskMapScanner::scanStreaming(path("root"), std::make_shared<CancelToken>(), {}, {},
+                                            DiskMapScanner::HiddenEntries::included,
+                                            DirectoryWalker::ReadAheadMode::always),
+              root);
     const DiskNode& cache = root.children()[1];
     ASSERT_EQ(cache.children().size(), 1u);
     EXPECT_EQ(cache.children()[0].id(), path("root/.cache/thumbnails"));
@@ -425,6 +429,12 @@ TEST_F(DiskMapScannerTest, WalksTwoThousandLevelsWithoutRecursing)
     EXPECT_EQ(node->name(), "bottom.bin");
     EXPECT_EQ(tree.size(), node->size());
     EXPECT_GT(tree.size(), 0);
+    // Helpers reading ahead change nothing in the tree, and leave no descriptor open.
+    EXPECT_EQ(DiskMapScanner::scanStreaming(root, std::make_shared<CancelToken>(), {}, {},
+                                            DiskMapScanner::HiddenEntries::included,
+                                            DirectoryWalker::ReadAheadMode::always),
+              tree);
+    EXPECT_EQ(TreeBuilder::openDescriptorCount(), descriptorsBefore);
     const DiskNode copy = tree;
     EXPECT_EQ(copy, tree);
     EXPECT_EQ(std::hash<DiskNode>{}(copy), std::hash<DiskNode>{}(tree));
