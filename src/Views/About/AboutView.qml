@@ -39,6 +39,9 @@ Window {
 
         ColumnLayout {
             Layout.fillWidth: true
+            // A layout grows no wider than its widest child unless told; without this the header
+            // kept to its own width at the window's left instead of centring in it.
+            Layout.maximumWidth: Number.POSITIVE_INFINITY
             Layout.margins: 20
             spacing: 12
 

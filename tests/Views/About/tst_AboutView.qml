@@ -52,6 +52,9 @@ ViewTestCase {
     function test_withoutHistoryTheWindowSaysSo() {
         const window = open()
         compare(child(window, "version").text, "Version 0.1.0 (1)")
+        // The header stands in the middle of the window, not at its left.
+        const version = child(window, "version")
+        fuzzyCompare(version.mapToItem(null, version.width / 2, 0).x, window.width / 2, 1)
         compare(child(window, "allTimeTotal").text, "Zero KB")
         verify(child(window, "noCleanups").visible)
         compare(child(window, "noCleanups").text, "No cleanups yet.")
