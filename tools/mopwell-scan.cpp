@@ -111,29 +111,36 @@ std::int64_t itemCount(const DiskNode& root)
     return count;
 }
 
-int printDiskMap(const std::string& path, const std::vector<std::string>& flags)
+// The path and the options in any order.
+int printDiskMap(const std::vector<std::string>& arguments)
 {
+    std::optional<std::string> path;
     bool asJson = false;
     PlatformProfile profile = currentPlatformProfile();
     auto readAhead = DirectoryWalker::ReadAheadMode::whenCold;
-    for (std::size_t i = 0; i < flags.size(); ++i) {
-        const auto named = flags[i] == "--profile" && i + 1 < flags.size() ? platformProfileNamed(flags[++i])
-                                                                            : std::nullopt;
-        if (named)
+    for (std::size_t i = 0; i < arguments.size(); ++i) {
+        if (arguments[i] == "--profile") {
+            const auto named = i + 1 < arguments.size() ? platformProfileNamed(arguments[++i]) : std::nullopt;
+            if (!named)
+                return usage();
             profile = *named;
-        else if (flags[i] == "--json")
+        } else if (arguments[i] == "--json")
             asJson = true;
-        else if (flags[i] == "--no-read-ahead")
+        else if (arguments[i] == "--no-read-ahead")
             readAhead = DirectoryWalker::ReadAheadMode::off;
+        else if (!path && !arguments[i].starts_with("--"))
+            path = arguments[i];
         else
             return usage();
     }
+    if (!path)
+        return usage();
     const auto start = std::chrono::steady_clock::now();
     // The tree is left for the operating system to reclaim at exit: freeing it record by record
     // costs a walk over every item, which a command about to end gains nothing from. The pointer
     // stays reachable, so leak checkers don't report it.
     static const DiskNode* const tree =
-        new DiskNode(DiskMapScanner::scanStreaming(path, std::make_shared<CancelToken>(), {}, {},
+        new DiskNode(DiskMapScanner::scanStreaming(*path, std::make_shared<CancelToken>(), {}, {},
                                                    DiskMapScanner::hiddenEntriesOn(profile), readAhead));
     const DiskNode& root = *tree;
     const std::chrono::duration<double> elapsed = std::chrono::steady_clock::now() - start;
@@ -258,7 +265,7 @@ int main(int argc, char** argv)
     if (command == "size" && argc == 3)
         return printSize(argv[2]);
     if (command == "diskmap")
-        return printDiskMap(argv[2], std::vector<std::string>(argv + 3, argv + argc));
+        return printDiskMap(std::vector<std::string>(argv + 2, argv + argc));
     if (command == "dups")
         return printDuplicates(argv[2], std::vector<std::string>(argv + 3, argv + argc));
     if (command == "projects")
