@@ -22,6 +22,15 @@ WelcomeFlow::~WelcomeFlow()
 {
     delete onboarding_.data();
     delete coachMark_.data();
+    for (const QPointer<QQuickWindow>& window : retired_)
+        delete window.data();
+}
+
+void WelcomeFlow::retire(QQuickWindow* window)
+{
+    std::erase_if(retired_, [](const QPointer<QQuickWindow>& gone) { return gone.isNull(); });
+    retired_.emplace_back(window);
+    window->deleteLater();
 }
 
 QQuickWindow* WelcomeFlow::create(const QUrl& source, const QVariantMap& properties)
@@ -56,9 +65,9 @@ void WelcomeFlow::showOnboarding()
         // Closed some other way (the window manager), it is simply gone; the next request builds
         // it afresh.
         QWindow* plain = onboarding_;
-        connect(plain, &QWindow::visibleChanged, this, [plain](bool visible) {
+        connect(plain, &QWindow::visibleChanged, this, [this, window = onboarding_.data()](bool visible) {
             if (!visible)
-                plain->deleteLater();
+                retire(window);
         });
     }
     onboarding_->show();
@@ -146,6 +155,6 @@ void WelcomeFlow::dismissCoachMark()
     if (QQuickWindow* window = coachMark_.data()) {
         coachMark_ = nullptr;
         window->close();
-        window->deleteLater();
+        retire(window);
     }
 }

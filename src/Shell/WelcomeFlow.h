@@ -8,6 +8,7 @@
 #include <QUrl>
 
 #include <functional>
+#include <vector>
 
 class AppModel;
 class QQmlEngine;
@@ -73,6 +74,8 @@ private slots:
 private:
     QQuickWindow* create(const QUrl& source, const QVariantMap& properties);
     QRect itemFrame() const;
+    // Deletes a window once the event that put it away has run its course.
+    void retire(QQuickWindow* window);
 
     QQmlEngine& engine_;
     AppModel& model_;
@@ -80,6 +83,9 @@ private:
     ItemFrame statusItemFrame_;
     QPointer<QQuickWindow> onboarding_;
     QPointer<QQuickWindow> coachMark_;
+    // Windows put away but not yet deleted; the flow deletes what is left of them itself, since
+    // after it the engine they came from may go, and with it what their animations write to.
+    std::vector<QPointer<QQuickWindow>> retired_;
     // Where the welcome was last put, and the timer that looks again while it is up.
     QRect onboardingArea_;
     QTimer followStatusItem_;
