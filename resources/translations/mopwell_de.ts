@@ -1297,6 +1297,10 @@
         <source>Nothing to clean — you&apos;re already tidy.</source>
         <translation>Nichts zu bereinigen – bei Ihnen ist schon alles aufgeräumt.</translation>
     </message>
+    <message>
+        <source>Only %1 available. Click “Clean Up Now” to free up space.</source>
+        <translation>Nur noch %1 verfügbar. Klicken Sie auf „Jetzt aufräumen“, um Platz freizugeben.</translation>
+    </message>
 </context>
 <context>
     <name>OnboardingView</name>

@@ -1297,6 +1297,10 @@
         <source>Nothing to clean — you&apos;re already tidy.</source>
         <translation>Rien à nettoyer — tout est déjà en ordre.</translation>
     </message>
+    <message>
+        <source>Only %1 available. Click “Clean Up Now” to free up space.</source>
+        <translation>Seulement %1 disponibles. Cliquez sur « Nettoyer maintenant » pour libérer de l’espace.</translation>
+    </message>
 </context>
 <context>
     <name>OnboardingView</name>

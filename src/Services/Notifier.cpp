@@ -3,6 +3,7 @@
 #include "Platform/Bundle.h"
 #include "Platform/ByteCountFormatter.h"
 #include "Platform/NotificationCenter.h"
+#include "Platform/PlatformProfile.h"
 #include "QtConversions.h"
 
 #include <QCoreApplication>
@@ -48,8 +49,11 @@ void notifyLowSpace(std::int64_t availableBytes)
     NotificationRequest request;
     request.identifier = lowSpaceRequestIdentifier;
     request.title = QCoreApplication::translate("Notifier", "Low disk space");
-    request.body = QCoreApplication::translate("Notifier", "Only %1 available. Tap “Clean Up Now” to free up space.")
-                       .arg(formatted(availableBytes));
+    // A Mac's notification is tapped; a Linux desktop shows the action as a button to click.
+    const char* body = currentPlatformProfile() == PlatformProfile::macOS
+        ? QT_TRANSLATE_NOOP("Notifier", "Only %1 available. Tap “Clean Up Now” to free up space.")
+        : QT_TRANSLATE_NOOP("Notifier", "Only %1 available. Click “Clean Up Now” to free up space.");
+    request.body = QCoreApplication::translate("Notifier", body).arg(formatted(availableBytes));
     request.sound = NotificationRequest::Sound::standard;
     request.categoryIdentifier = lowSpaceCategoryIdentifier;
     center().post(request);

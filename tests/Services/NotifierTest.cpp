@@ -43,7 +43,7 @@ TEST_F(NotifierTest, TheLowSpaceAlertOffersCleanUpNowAndReplacesTheLastOne)
     const auto first = waitForNotification(1);
     EXPECT_EQ(first.appName, "Mopwell");
     EXPECT_EQ(first.summary, "Low disk space");
-    EXPECT_EQ(first.body, "Only 1.5 GB available. Tap “Clean Up Now” to free up space.");
+    EXPECT_EQ(first.body, "Only 1.5 GB available. Click “Clean Up Now” to free up space.");
     ASSERT_EQ(first.actions.size(), 4);
     EXPECT_EQ(first.actions[0], "default");
     EXPECT_EQ(first.actions.mid(2), (QStringList{"CLEAN_NOW", "Clean Up Now"}));
@@ -53,7 +53,7 @@ TEST_F(NotifierTest, TheLowSpaceAlertOffersCleanUpNowAndReplacesTheLastOne)
 
     Notifier::notifyLowSpace(999'000'000);
     const auto second = waitForNotification(2);
-    EXPECT_EQ(second.body, "Only 999 MB available. Tap “Clean Up Now” to free up space.");
+    EXPECT_EQ(second.body, "Only 999 MB available. Click “Clean Up Now” to free up space.");
     EXPECT_EQ(second.replacesId, first.id);
 
     // Both the action and a click on the body lead to the shell's clean-up handler.
