@@ -16,7 +16,7 @@
 #   BASELINE=/tmp/mopwell-scan.old bench/diskmap.sh   also times an earlier build of mopwell-scan in
 #                                       the same run, and checks that both print the same JSON
 #
-# "mopwell-scan, no read-ahead" is the same walk with its helper threads kept from starting on an
+# "mopwell-scan no read-ahead" is the same walk with its helper threads kept from starting on an
 # uncached tree (they never start on a cached one).
 #
 # Other work on the machine skews the figures: run it holding the build lock, so no build or test
@@ -44,14 +44,14 @@ empty=$(mktemp -d)
 work=$(mktemp -d)
 trap 'rm -rf "$empty" "$work"' EXIT
 
-order=(floor "du -s" "ncdu -o /dev/null -x" "gdu -n -p" "mopwell-scan diskmap" "mopwell-scan, no read-ahead")
+order=(floor "du -s" "ncdu -o /dev/null -x" "gdu -n -p" "mopwell-scan diskmap" "mopwell-scan no read-ahead")
 declare -A commands=(
   [floor]="$build/bench/walk-floor"
   ["du -s"]="du -s"
   ["ncdu -o /dev/null -x"]="ncdu -o /dev/null -x"
   ["gdu -n -p"]="gdu -n -p"
   ["mopwell-scan diskmap"]="$build/tools/mopwell-scan diskmap"
-  ["mopwell-scan, no read-ahead"]="$build/tools/mopwell-scan diskmap --no-read-ahead"
+  ["mopwell-scan no read-ahead"]="$build/tools/mopwell-scan diskmap --no-read-ahead"
 )
 if [ -n "${BASELINE:-}" ]; then
   order+=("baseline diskmap")
@@ -122,7 +122,7 @@ peak_kb() {  # the highest resident set of one run, in KB
 print_memory() {
   local tree=$1 items=$2
   for name in "${order[@]}"; do
-    [ "$name" = floor ] || [ "$name" = "mopwell-scan, no read-ahead" ] && continue
+    [ "$name" = floor ] || [ "$name" = "mopwell-scan no read-ahead" ] && continue
     local best="" kb base
     for _ in 1 2 3; do
       kb=$(peak_kb "${commands[$name]}" "$tree")
