@@ -206,7 +206,10 @@ FileCategory forFile(std::string_view name)
                 return FileCategory::other;
             return categoryOfKey(key);
         }
-        key |= std::uint64_t{static_cast<unsigned char>(lowercase(c))} << (8 * (name.size() - 1 - at));
+        const std::size_t position = name.size() - 1 - at;
+        if (position == longestExtension)
+            return FileCategory::other;  // nine bytes and no dot: longer than any known extension
+        key |= std::uint64_t{static_cast<unsigned char>(lowercase(c))} << (8 * position);
     }
     return FileCategory::other;
 }

@@ -36,7 +36,7 @@ TEST(FileCategory, NamesWithoutAUsableExtensionAreOther)
 {
     for (const char* name : {"README", ".bashrc", ".cache", "notes.", "", "photos.d/README",
                              "file.unknown", "Tool.app", "clip.mp", "photo.jpgs", "photo.xjpg",
-                             "notes.markdown", "book.epubbook", "main.c\xc3\xa9", "photos/.png", "a.png/b", "/"})
+                             "notes.markdown", "book.epubbook", "main.c\xc3\xa9", "photos/.png", "a.png/b", "/", "LICENSE-MIT", "clip.mp4abcdef"})
         EXPECT_EQ(forFile(name), FileCategory::other) << name;
 }
 
