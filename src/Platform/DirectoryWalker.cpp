@@ -1,5 +1,6 @@
 #include "Platform/DirectoryWalker.h"
 
+#include "Platform/KernelListing.h"
 #include "Platform/PosixItemInfo.h"
 #include "Platform/ReadAhead.h"
 
@@ -7,8 +8,8 @@
 #include <cstring>
 #include <dirent.h>
 #include <fcntl.h>
-#include <string>
 #include <memory>
+#include <string>
 #include <sys/resource.h>
 #include <unistd.h>
 #include <vector>
@@ -57,30 +58,11 @@ struct Frame {
 };
 
 // Appends the names of the folder open at `descriptor`, without "." and "..", each followed by
-// a zero byte, and sets `self` to the inode number "." is listed with (0 if it isn't). Reads the
-// kernel's records straight into one reused buffer: no directory stream to allocate, and no
-// duplicate descriptor to give it. A read that fails ends the listing with what was read, and
-// false.
+// a zero byte, and sets `self` to the inode number "." is listed with (0 if it isn't). A read
+// that fails ends the listing with what was read, and false.
 bool appendListing(int descriptor, std::string& names, std::vector<std::uint64_t>& buffer, std::uint64_t& self)
 {
-    self = 0;
-    const auto bytes = reinterpret_cast<char*>(buffer.data());
-    for (;;) {
-        const ssize_t got = getdents64(descriptor, bytes, buffer.size() * sizeof(std::uint64_t));
-        if (got <= 0)
-            return got == 0;
-        for (ssize_t at = 0; at < got;) {
-            const auto* entry = reinterpret_cast<const struct dirent64*>(bytes + at);
-            at += entry->d_reclen;
-            const char* name = entry->d_name;
-            if (name[0] == '.' && (name[1] == '\0' || (name[1] == '.' && name[2] == '\0'))) {
-                if (name[1] == '\0')
-                    self = entry->d_ino;
-                continue;
-            }
-            names.append(name, std::strlen(name) + 1);
-        }
-    }
+    return forEachListed(descriptor, buffer, self, [&names](const char* name) { names.append(name, std::strlen(name) + 1); });
 }
 
 bool sameItem(int descriptor, std::uint64_t device, std::uint64_t inode)

@@ -1,7 +1,8 @@
 #include "Platform/ReadAhead.h"
 
+#include "Platform/KernelListing.h"
+
 #include <chrono>
-#include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -73,24 +74,13 @@ std::vector<ReadAhead::Folder> ReadAhead::read(const Folder& folder, bool withSu
                                          : openat(root_, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (descriptor < 0)
         return {};
-    const auto self = std::make_shared<Descriptor>(descriptor);
+    const auto opened = std::make_shared<Descriptor>(descriptor);
     std::vector<Folder> subfolders;
-    const auto bytes = reinterpret_cast<char*>(buffer.data());
-    for (;;) {
-        const ssize_t got = getdents64(descriptor, bytes, buffer.size() * sizeof(std::uint64_t));
-        if (got <= 0)
-            break;
-        for (ssize_t at = 0; at < got;) {
-            const auto* entry = reinterpret_cast<const struct dirent64*>(bytes + at);
-            at += entry->d_reclen;
-            const char* name = entry->d_name;
-            if (name[0] == '.' && (name[1] == '\0' || (name[1] == '.' && name[2] == '\0')))
-                continue;
-            struct stat status {};
-            if (fstatat(descriptor, name, &status, AT_SYMLINK_NOFOLLOW) == 0 && S_ISDIR(status.st_mode) &&
-                withSubfolders)
-                subfolders.push_back({self, name});
-        }
-    }
+    std::uint64_t inode = 0;
+    forEachListed(descriptor, buffer, inode, [&](const char* name) {
+        struct stat status {};
+        if (fstatat(descriptor, name, &status, AT_SYMLINK_NOFOLLOW) == 0 && S_ISDIR(status.st_mode) && withSubfolders)
+            subfolders.push_back({opened, name});
+    });
     return subfolders;
 }
