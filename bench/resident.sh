@@ -29,47 +29,17 @@ fi
 build=$2 idle=$3
 app="$build/src/mopwell"
 
-work=$(mktemp -d "${TMPDIR:-/tmp}/mopwell-resident.XXXXXX")
-pids=()
-cleanup() {
-  for pid in "${pids[@]}"; do kill "$pid" 2>/dev/null || true; done
-  wait 2>/dev/null || true
-  rm -rf "$work"
-}
-trap cleanup EXIT
 fail() { echo "FAILED: $*" >&2; tail -5 "$work/mopwell.log" >&2; exit 1; }
-
-wait_for() {  # polls COMMAND every 0.1 s for up to SECONDS
-  local seconds=$1
-  shift
-  for _ in $(seq $((seconds * 10))); do
-    "$@" && return 0
-    sleep 0.1
-  done
-  return 1
-}
-
-Xvfb -displayfd 3 -screen 0 1280x800x24 -nolisten tcp 3>"$work/display" 2>"$work/xvfb.log" &
-pids+=($!)
-wait_for 10 test -s "$work/display" || fail "the X server didn't start"
-export DISPLAY=":$(head -n1 "$work/display")"
-trayer --edge top --align right --widthtype request --height 26 --SetDockType true \
-  --transparent true --alpha 0 --tint 0xdcdcdc >"$work/trayer.log" 2>&1 &
-pids+=($!)
-wait_for 10 bash -c "xwininfo -root -children | grep -q '(\"panel\" \"trayer\")'" || fail "no status area"
-dunst >"$work/dunst.log" 2>&1 &
-pids+=($!)
+. tests/Support/desktop-session.sh
 
 # A returning user: the welcome is behind them, everything else as it comes.
-mkdir -p "$work"/{home,config/mopwell,data,cache,runtime}
-chmod 700 "$work/runtime"
+mkdir -p "$work/config/mopwell"
 cat >"$work/config/mopwell/defaults.plist" <<'EOF'
 <?xml version="1.0" encoding="UTF-8"?>
 <!DOCTYPE plist PUBLIC "-//Apple//DTD PLIST 1.0//EN" "http://www.apple.com/DTDs/PropertyList-1.0.dtd">
 <plist version="1.0"><dict><key>hasCompletedOnboarding</key><true/></dict></plist>
 EOF
-HOME="$work/home" XDG_CONFIG_HOME="$work/config" XDG_DATA_HOME="$work/data" XDG_CACHE_HOME="$work/cache" \
-  XDG_RUNTIME_DIR="$work/runtime" QT_QPA_PLATFORM=xcb "$app" >"$work/mopwell.log" 2>&1 &
+start_app mopwell
 app_pid=$!
 pids+=($app_pid)
 
@@ -89,27 +59,13 @@ settle() {
   done
 }
 
-status_item() {  # the item's centre on screen
-  xwininfo -root -tree | awk '
-    /\("panel" "trayer"\)/ { inside = 1; next }
-    inside && /\("mopwell" / { split($(NF-1), s, /[x+]/); split($NF, a, /\+/); print a[2] + int(s[1] / 2), a[3] + int(s[2] / 2); exit }'
-}
-panel() {  # the panel's id, x, y and height
-  xwininfo -root -children | awk '/\("mopwell" / && $(NF-1) ~ /^380x/ {
-    split($(NF-1), s, /[x+]/); split($NF, at, /\+/); print $1, at[2], at[3], s[2]; exit }'
-}
-panel_shown() {
-  local id
-  id=$(panel | cut -d' ' -f1)
-  [ -n "$id" ] && xwininfo -id "$id" | grep -q 'Map State: IsViewable'
-}
-panel_hidden() { ! panel_shown; }
 window_named() { xdotool search --name "^$1\$" 2>/dev/null | head -1; }
 
 wait_for 30 bash -c "xwininfo -root -tree | grep -q '(\"mopwell\" '" || fail "the status item didn't appear"
 settle
-read -r item_x item_y <<<"$(status_item)"
+read -r item_w item_h item_x item_y <<<"$(status_item)"
 [ -n "$item_x" ] || fail "the status item isn't in the status area"
+item_x=$((item_x + item_w / 2)) item_y=$((item_y + item_h / 2))  # its centre
 echo "status item up:                         $(rss_mb) MB"
 
 xdotool mousemove "$item_x" "$item_y" click 1

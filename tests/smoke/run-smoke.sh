@@ -21,15 +21,6 @@ app=$1
 shots=$2
 mkdir -p "$shots"
 
-work=$(mktemp -d "${TMPDIR:-/tmp}/mopwell-smoke.XXXXXX")
-pids=()
-cleanup() {
-    for pid in "${pids[@]}"; do kill "$pid" 2>/dev/null || true; done
-    wait 2>/dev/null || true
-    rm -rf "$work"
-}
-trap cleanup EXIT
-
 fail() {
     echo "FAILED: $*"
     for log in "$work"/*.log; do echo "--- $(basename "$log")"; tail -20 "$log"; done
@@ -37,56 +28,12 @@ fail() {
     xwininfo -root -tree 2>&1 | grep -v '^$' | head -40
     exit 1
 }
+. "$(dirname "$0")/../Support/desktop-session.sh"
 
-# Polls COMMAND every 0.1 s for up to SECONDS.
-wait_for() {
-    local seconds=$1
-    shift
-    for _ in $(seq $((seconds * 10))); do
-        "$@" && return 0
-        sleep 0.1
-    done
-    return 1
-}
-
-# The X server picks a free display number and tells us on descriptor 3.
-Xvfb -displayfd 3 -screen 0 1280x800x24 -nolisten tcp 3>"$work/display" 2>"$work/xvfb.log" &
-pids+=($!)
-wait_for 10 test -s "$work/display" || fail "the X server didn't start"
-export DISPLAY=":$(head -n1 "$work/display")"
-
-# A status area in a bar along the top of the screen.
-trayer --edge top --align right --widthtype request --height 26 --SetDockType true \
-    --transparent true --alpha 0 --tint 0xdcdcdc >"$work/trayer.log" 2>&1 &
-pids+=($!)
-has_status_area() { xwininfo -root -children | grep -q '("panel" "trayer")'; }
-wait_for 10 has_status_area || fail "the status area didn't appear"
-
-if command -v dunst >/dev/null; then
-    dunst >"$work/dunst.log" 2>&1 &
-    pids+=($!)
-fi
-
-mkdir -p "$work"/{home,config,data,cache,runtime}
-chmod 700 "$work/runtime"
-start_app() {
-    HOME="$work/home" XDG_CONFIG_HOME="$work/config" XDG_DATA_HOME="$work/data" XDG_CACHE_HOME="$work/cache" \
-        XDG_RUNTIME_DIR="$work/runtime" QT_QPA_PLATFORM=xcb "$app" >"$work/$1.log" 2>&1 &
-}
 start_app mopwell
 app_pid=$!
 pids+=($app_pid)
 
-# The status item is the application's window embedded in the status area's bar: prints its
-# width, height, x and y on screen.
-status_item() {
-    xwininfo -root -tree | awk '
-        /\("panel" "trayer"\)/ { inside = 1; next }
-        inside && /\("mopwell" / {
-            split($(NF-1), size, /[x+]/); split($NF, at, /\+/)
-            print size[1], size[2], at[2], at[3]; exit
-        }'
-}
 item_shown() { [ -n "$(status_item)" ]; }
 # A sanitized build starts slowly on a busy machine.
 wait_for 30 item_shown || fail "the status item didn't appear"
@@ -94,17 +41,6 @@ read -r item_w item_h item_x item_y <<<"$(status_item)"
 echo "status item: ${item_w}x${item_h} at ${item_x},${item_y}"
 click_x=$((item_x + item_w / 2))
 click_y=$((item_y + item_h / 2))
-
-# The panel: the application's 380-wide top-level window. Prints its id, x and y.
-panel() {
-    xwininfo -root -children | awk '/\("mopwell" / && $(NF-1) ~ /^380x/ {
-        split($NF, at, /\+/); print $1, at[2], at[3]; exit }'
-}
-panel_shown() {
-    local id
-    id=$(panel | cut -d' ' -f1)
-    [ -n "$id" ] && xwininfo -id "$id" | grep -q 'Map State: IsViewable'
-}
 
 # A first start welcomes the user over the screen but leaves the status area free; Escape is
 # "Skip for now", after which a bubble points at the icon without covering it.
@@ -132,7 +68,7 @@ wait_for 10 panel_shown || fail "a click on the status item didn't show the pane
 # The user has found the icon: the bubble goes.
 coach_mark_hidden() { ! coach_mark_shown; }
 wait_for 5 coach_mark_hidden || fail "the bubble stayed after a click on the status item"
-read -r _ panel_x panel_y <<<"$(panel)"
+read -r _ panel_x panel_y _ <<<"$(panel)"
 echo "panel at ${panel_x},${panel_y}"
 # Dropped just under the item, and reaching across it.
 [ "$panel_y" -ge $((item_y + item_h - 2)) ] && [ "$panel_y" -le $((item_y + item_h + 4)) ] ||
@@ -148,7 +84,6 @@ spread=$(convert "$shots/smoke.png" -crop "${item_w}x${item_h}+${item_x}+${item_
 awk -v s="$spread" 'BEGIN { exit !(s > 0.01) }' || fail "the status item's image is blank"
 
 xdotool mousemove "$click_x" "$click_y" click 1
-panel_hidden() { ! panel_shown; }
 wait_for 5 panel_hidden || fail "a second click didn't put the panel away"
 
 # A second start (an autostart entry plus a start by hand) hands over to the running copy, which
