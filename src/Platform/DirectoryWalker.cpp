@@ -101,7 +101,7 @@ public:
         if (fstat(rootDescriptor, &status) != 0 || !S_ISDIR(status.st_mode))
             return false;
         const ItemInfo info = itemInfoFrom(status);
-        blocksAtStart_ = readAheadMode_ == DirectoryWalker::ReadAheadMode::whenCold ? blocksRead() : 0;
+        blocksAtLastLook_ = readAheadMode_ == DirectoryWalker::ReadAheadMode::whenCold ? blocksRead() : 0;
         std::uint64_t self = 0;
         const bool whole = appendListing(rootDescriptor, names_, buffer_, self);
         considerReadingAhead();
@@ -136,16 +136,19 @@ private:
 
     // Entries between two looks at whether the walk reads from the disk.
     static constexpr std::uint32_t entriesBetweenLooks = 512;
-    // Blocks read (of 512 bytes) that mean the tree is not in the cache.
-    static constexpr long coldBlocks = 64;
+    // Blocks read (of 512 bytes) between two looks that mean the tree is not in the cache: an
+    // uncached tree reads thousands, a cached one now and then a few that the system had let go.
+    static constexpr long coldBlocks = 256;
 
-    // Starts the helpers for `always`, or for `whenCold` once the walk has read from the disk.
+    // Starts the helpers for `always`, or for `whenCold` once the walk reads from the disk.
     void considerReadingAhead()
     {
         if (readAhead_ || readAheadMode_ == DirectoryWalker::ReadAheadMode::off)
             return;
-        if (readAheadMode_ == DirectoryWalker::ReadAheadMode::always || blocksRead() - blocksAtStart_ >= coldBlocks)
+        const long blocks = readAheadMode_ == DirectoryWalker::ReadAheadMode::whenCold ? blocksRead() : 0;
+        if (readAheadMode_ == DirectoryWalker::ReadAheadMode::always || blocks - blocksAtLastLook_ >= coldBlocks)
             readAhead_ = std::make_unique<ReadAhead>(borrowed_);
+        blocksAtLastLook_ = blocks;
     }
 
     // Handles the entry at `start` in the listing of the folder at `level`; false ends the walk.
@@ -251,7 +254,7 @@ private:
     int borrowed_ = -1;
     const int openDepthLimit_;
     const DirectoryWalker::ReadAheadMode readAheadMode_;
-    long blocksAtStart_ = 0;
+    long blocksAtLastLook_ = 0;
     std::uint32_t entriesSinceLook_ = 0;
     std::unique_ptr<ReadAhead> readAhead_;  // reads below the root's descriptor, which outlives the walk
 };
