@@ -236,19 +236,26 @@ private:
 
     // A folder's files mostly share one extension, so the last file's category is reused while
     // the names end in the same "." + extension (with something before the dot, or it would be
-    // a hidden name).
+    // a hidden name). Extensions are short: they are compared byte by byte.
     FileCategory categoryOf(std::string_view name)
     {
-        const std::size_t length = lastExtension_.size();
-        if (length > 0 && name.size() > length + 1 && name.ends_with(lastExtension_) &&
-            name[name.size() - length - 1] == '.' && name[name.size() - length - 2] != '/')
-            return lastCategory_;
+        const std::size_t length = lastExtensionLength_;
+        if (length > 0 && name.size() > length + 1 && name[name.size() - length - 1] == '.' &&
+            name[name.size() - length - 2] != '/') {
+            const char* tail = name.data() + name.size() - length;
+            std::size_t same = 0;
+            while (same < length && tail[same] == lastExtension_[same])
+                ++same;
+            if (same == length)
+                return lastCategory_;
+        }
         lastCategory_ = FileCategories::forFile(name);
         const std::size_t dot = name.rfind('.');
-        const bool extension = dot != std::string_view::npos && dot > 0 && name[dot - 1] != '/' &&
-                               name.size() - dot - 1 <= sizeof(std::uint64_t) &&
-                               name.find('/', dot) == std::string_view::npos;
-        lastExtension_ = extension ? name.substr(dot + 1) : std::string_view();
+        const bool usable = dot != std::string_view::npos && dot > 0 && name[dot - 1] != '/' &&
+                            name.size() - dot - 1 <= lastExtension_.size() &&
+                            name.find('/', dot) == std::string_view::npos;
+        lastExtensionLength_ = usable ? name.size() - dot - 1 : 0;
+        std::copy_n(name.end() - lastExtensionLength_, lastExtensionLength_, lastExtension_.begin());
         return lastCategory_;
     }
 
@@ -288,7 +295,8 @@ private:
     std::int64_t bytesSeen_ = 0;
     std::chrono::steady_clock::time_point lastProgress_{};
     bool rootUnreadable_ = false;
-    std::string lastExtension_;  // as spelled; empty when the last file had none worth keeping
+    std::array<char, sizeof(std::uint64_t)> lastExtension_{};  // as spelled
+    std::size_t lastExtensionLength_ = 0;  // 0 when the last file had none worth keeping
     FileCategory lastCategory_ = FileCategory::other;
     SortScratch scratch_;
 };
