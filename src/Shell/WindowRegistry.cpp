@@ -1,6 +1,7 @@
 #include "WindowRegistry.h"
 
 #include "AppModel.h"
+#include "Platform/ProcessMemory.h"
 
 #include <QCursor>
 #include <QFile>
@@ -11,6 +12,7 @@
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QScreen>
+#include <QTimer>
 
 #include <algorithm>
 #include <utility>
@@ -171,6 +173,10 @@ void WindowRegistry::watchClosing(QQuickWindow& window, const QString& id)
 
 void WindowRegistry::forget(const QString& id)
 {
-    if (QWindow* window = open_.take(id).data())
+    if (QWindow* window = open_.take(id).data()) {
+        // Once the window and all it held are gone, the pages they leave free go back to the
+        // system: a closed disk map would otherwise keep its heap for the rest of the session.
+        connect(window, &QObject::destroyed, [] { QTimer::singleShot(0, &ProcessMemory::releaseFreePages); });
         window->deleteLater();
+    }
 }
