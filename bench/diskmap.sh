@@ -12,7 +12,7 @@
 #     broad   200,000 files in 1,000 folders: about 200 a folder
 #     deep    10,000 files along one path of 2,000 folders: about 5 a level
 #     FILES:FOLDERS[:random|chain]        any other tree (bench/make-tree.cpp)
-#   RUNS=15 COLD_RUNS=5 COLD=0 BUILD=build-other bench/diskmap.sh ...
+#   RUNS=15 COLD_RUNS=5 ROUNDS=5 COLD=0 BUILD=build-other bench/diskmap.sh ...
 #   BASELINE=/tmp/mopwell-scan.old bench/diskmap.sh   also times an earlier build of mopwell-scan in
 #                                       the same run, and checks that both print the same JSON
 #
@@ -25,10 +25,10 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . bench/peers.sh
-install_peers hyperfine ncdu gdu time
+install_peers hyperfine ncdu gdu time python3
 
 build=${BUILD:-build}
-runs=${RUNS:-15} coldRuns=${COLD_RUNS:-5}
+runs=${RUNS:-15} coldRuns=${COLD_RUNS:-5} rounds_wanted=${ROUNDS:-5}
 cmake -S . -B "$build" -G Ninja >/dev/null
 cmake --build "$build" --target mopwell-scan make-tree walk-floor >/dev/null
 shapes=("$@")
@@ -77,10 +77,12 @@ tree_for() {
   echo "$tree"
 }
 
-# Times every command on the tree; with "cold", each run starts from dropped caches.
-# Leaves hyperfine's CSV in $work/$2.csv.
+# Times every command on the tree; with "cold", each run starts from dropped caches. The runs are
+# made in ROUNDS rounds (default 5) that each time every command in turn, so that the machine's
+# drift over the minutes a shape takes falls on every command alike rather than on whichever
+# hyperfine timed last. Leaves the runs' figures, in hyperfine's CSV columns, in $work/$2.csv.
 time_all() {
-  local tree=$1 round=$2 args=()
+  local tree=$1 round=$2 args=() total=$runs warmup=(--warmup 1)
   for name in "${order[@]}"; do
     if [ "$round" = cold ]; then
       args+=(--prepare "sh -c 'sync; echo 3 > /proc/sys/vm/drop_caches; ${commands[$name]} $empty >/dev/null 2>&1'")
@@ -88,10 +90,26 @@ time_all() {
     args+=(-n "$name" "${commands[$name]} $tree")
   done
   if [ "$round" = cold ]; then
-    hyperfine -N --style none --runs "$coldRuns" --export-csv "$work/$round.csv" "${args[@]}" >/dev/null
-  else
-    hyperfine -N --style none --warmup 3 --runs "$runs" --export-csv "$work/$round.csv" "${args[@]}" >/dev/null
+    total=$coldRuns warmup=()
   fi
+  local rounds=$(( rounds_wanted < total ? rounds_wanted : total ))
+  local per=$(( (total + rounds - 1) / rounds ))
+  rm -f "$work/$round".*.json
+  for r in $(seq "$rounds"); do
+    hyperfine -N --style none "${warmup[@]}" --runs "$per" --export-json "$work/$round.$r.json" "${args[@]}" >/dev/null
+  done
+  python3 - "$work/$round".*.json >"$work/$round.csv" <<'PY'
+import json, statistics, sys
+times = {}
+for path in sys.argv[1:]:
+    for result in json.load(open(path))["results"]:
+        times.setdefault(result["command"], []).append(result["times"])
+print("command,mean,stddev,median,user,system,min,max")
+for name, runs in times.items():
+    t = [x for run in runs for x in run]
+    print(f"{name},{statistics.mean(t)},{statistics.stdev(t) if len(t) > 1 else 0},"
+          f"{statistics.median(t)},0,0,{min(t)},{max(t)}")
+PY
 }
 
 # One line per command: median, mean ± standard deviation, range, and the median over the floor's.
