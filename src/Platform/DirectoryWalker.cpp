@@ -139,6 +139,10 @@ private:
     // Blocks read (of 512 bytes) between two looks that mean the tree is not in the cache: an
     // uncached tree reads thousands, a cached one now and then a few that the system had let go.
     static constexpr long coldBlocks = 256;
+    // Looks in a row that must find the disk read before the helpers start: an uncached tree reads
+    // at every look, while a cached one the system has let go of in part can read a burst at one,
+    // and four helpers started for nothing slow a cached walk by a fifth on two cores.
+    static constexpr int coldLooksToStart = 2;
 
     // Starts the helpers for `always`, or for `whenCold` once the walk reads from the disk.
     void considerReadingAhead()
@@ -146,7 +150,8 @@ private:
         if (readAhead_ || readAheadMode_ == DirectoryWalker::ReadAheadMode::off)
             return;
         const long blocks = readAheadMode_ == DirectoryWalker::ReadAheadMode::whenCold ? blocksRead() : 0;
-        if (readAheadMode_ == DirectoryWalker::ReadAheadMode::always || blocks - blocksAtLastLook_ >= coldBlocks)
+        coldLooksInARow_ = blocks - blocksAtLastLook_ >= coldBlocks ? coldLooksInARow_ + 1 : 0;
+        if (readAheadMode_ == DirectoryWalker::ReadAheadMode::always || coldLooksInARow_ >= coldLooksToStart)
             readAhead_ = std::make_unique<ReadAhead>(borrowed_);
         blocksAtLastLook_ = blocks;
     }
@@ -255,6 +260,7 @@ private:
     const int openDepthLimit_;
     const DirectoryWalker::ReadAheadMode readAheadMode_;
     long blocksAtLastLook_ = 0;
+    int coldLooksInARow_ = 0;
     std::uint32_t entriesSinceLook_ = 0;
     std::unique_ptr<ReadAhead> readAhead_;  // reads below the root's descriptor, which outlives the walk
 };
