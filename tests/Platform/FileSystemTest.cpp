@@ -155,20 +155,3 @@ TEST_F(TempHomeTest, AnEntryThatVanishesMidWalkIsPassedOver)
     EXPECT_TRUE(DirectoryWalker::walk(root, vanisher));
     EXPECT_EQ(vanisher.seen, 1);
 }
-
-TEST_F(TempHomeTest, BasicItemQueries)
-{
-    const std::string home = tempHome.home();
-    TreeBuilder::writeFile(home + "/f.bin", 1);
-    fs::create_symlink(home + "/f.bin", home + "/l");
-    fs::create_directory_symlink(home, home + "/dl");
-    EXPECT_TRUE(FileSystem::info(home + "/l")->isSymlink());
-    EXPECT_TRUE(FileSystem::infoFollowingLinks(home + "/l")->isRegularFile());
-    EXPECT_GE(FileSystem::info(home + "/f.bin")->allocatedSize, 512);  // a 1-byte file takes a block
-    EXPECT_EQ(FileSystem::info(home + "/f.bin")->logicalSize, 1);
-    EXPECT_TRUE(FileSystem::isFolderFollowingLinks(home + "/dl"));
-    EXPECT_FALSE(FileSystem::contentsOfFolder(home + "/f.bin").has_value());
-    EXPECT_TRUE(FileSystem::createFolders(home + "/x/y/z"));
-    EXPECT_TRUE(FileSystem::moveItem(home + "/x", home + "/moved"));
-    EXPECT_TRUE(fs::is_directory(home + "/moved/y/z"));
-}
