@@ -128,21 +128,17 @@ QStringList shownLiterals(const QString& expression)
 
 }  // namespace
 
+// What the run over the sources below can't show by failing: that the check still finds a text,
+// and that it doesn't read a comment. A text it reports wrongly fails that run on its own.
 TEST(Translations, FindsTextsThatEscapeTranslation)
 {
     const struct {
         const char* expression;
         QStringList shown;
     } cases[] = {
-        {R"(qsTr("Clean up"))", {}},
         {R"(done ? qsTr("Done") : "Working")", {"Working"}},
-        {R"(state === "off" ? qsTr("Off") : qsTr("On"))", {}},
-        {R"("<a href=\"" + url + "\">" + name + "</a>")", {}},
-        {R"("Mopwell")", {}},
-        {R"(qsTranslate("CleanupCategory", section))", {}},
         {R"("Show all"; symbol: "gearshape")", {"Show all"}},
         {R"(qsTr("%1 GB").arg(v) // "GB" is translated with it)", {}},
-        {R"("·")", {}},
     };
     for (const auto& c : cases)
         EXPECT_EQ(shownLiterals(expressionOf(QString::fromUtf8(c.expression))), c.shown) << c.expression;
