@@ -56,27 +56,18 @@ TEST(DuplicateScannerStages, BucketsStartAtTheFloorRunLargestFirstAndDropLoneSiz
 
 TEST(DuplicateScannerStages, LargestKeepsAHundredInStableOrder)
 {
-    std::vector<ScannedFile> hundred;
-    for (int i = 0; i < 100; ++i)
-        hundred.push_back({"f" + std::to_string(i), i % 3});  // many equal sizes
-    hundred[42].size = 0;
-    EXPECT_EQ(DuplicateScanner::largest(hundred).size(), 100u);  // the empty file too
-
-    std::vector<ScannedFile> more = hundred;
-    more.push_back({"last", 1});
-    const auto top = DuplicateScanner::largest(more);
-    ASSERT_EQ(top.size(), 100u);
-    // Equal sizes keep walk order: every "2" first in order, then every "1" with "last" behind.
-    EXPECT_EQ(top.front().path, "f2");
-    EXPECT_EQ(top[1].path, "f5");
-    EXPECT_EQ(top.back().size, 0);
-    std::vector<std::string> ones;
-    for (const ScannedFile& file : top) {
-        if (file.size == 1)
-            ones.push_back(file.path);
+    // 101 files of 0, 1 and 2 bytes in turn: every 2 in walk order, then every 1, then the 0s
+    // but the last.
+    std::vector<ScannedFile> all, expected;
+    for (int i = 0; i < 101; ++i)
+        all.push_back({"f" + std::to_string(i), i % 3});
+    for (std::int64_t size : {2, 1, 0}) {
+        for (const ScannedFile& file : all) {
+            if (file.size == size && expected.size() < 100)
+                expected.push_back(file);
+        }
     }
-    EXPECT_EQ(ones.back(), "last");
-    EXPECT_EQ(ones.front(), "f1");
+    EXPECT_EQ(DuplicateScanner::largest(all), expected);
 }
 
 TEST(DuplicateScannerStages, GroupsFollowDigestsAndSortByWhatTheyFree)
@@ -199,7 +190,6 @@ TEST_F(DuplicateScannerTest, FindsCopiesStageByStageWhateverTheWayOfReading)
         EXPECT_EQ(walked.largest.size(), 16u);
         EXPECT_EQ(walked.largest.front().size, TreeBuilder::allocatedSize(a));
         EXPECT_EQ(walked.largest.back().path, path("tree/tiny.txt"));
-        EXPECT_TRUE(walked.duplicates.empty());
         for (const FileScanResult& result : run.results)
             EXPECT_EQ(result.largest, walked.largest) << way;
         std::vector<std::size_t> counts;
