@@ -245,65 +245,59 @@ TEST_F(TrashTest, PutBackNeverReplacesAndRecreatesMissingFolders)
     EXPECT_FALSE(Trash::putBack(*trashed.trashPath, home + "/again.txt"));
 }
 
-TEST_F(TrashTest, VolumeItemsGoToThePrivateVolumeTrashWithARelativePath)
+TEST_F(TrashTest, VolumeItemsGoToTheVolumesTrashWithARelativePath)
 {
     const std::string volume = tempHome.root() + "/volume";
     const MountedVolume mounted(volume);
     if (!mounted.error().empty())
         GTEST_SKIP() << "cannot mount a test volume: " << mounted.error();
+    const std::string ownTrash = volume + "/.Trash-" + uid;
     const std::string item = volume + "/sub dir/a file.txt";
     writeFile(item, "on volume");
 
     const auto trashed = Trash::trashItem(item);
     ASSERT_TRUE(trashed.trashed);
-    EXPECT_EQ(trashed.trashPath, volume + "/.Trash-" + uid + "/files/a file.txt");
+    EXPECT_EQ(trashed.trashPath, ownTrash + "/files/a file.txt");
     EXPECT_NE(infoFor(*trashed.trashPath).find("\nPath=sub%20dir/a%20file.txt\n"), std::string::npos);
     if (!shell("command -v trash-list").empty()) {
         EXPECT_NE(shell("trash-list").find(item + "\n"), std::string::npos);
     }
     ASSERT_TRUE(Trash::putBack(*trashed.trashPath, item));
-    EXPECT_TRUE(fs::is_empty(volume + "/.Trash-" + uid + "/info"));
+    EXPECT_TRUE(fs::is_empty(ownTrash + "/info"));
 
-    // A private trash that is a link, or another user's folder, could hand our files to
-    // someone else: refused, and the item stays.
-    fs::rename(volume + "/.Trash-" + uid, volume + "/elsewhere");
-    fs::create_directory_symlink(volume + "/elsewhere", volume + "/.Trash-" + uid);
-    EXPECT_FALSE(Trash::trashItem(item).trashed);
-    fs::remove(volume + "/.Trash-" + uid);
-    fs::create_directory(volume + "/.Trash-" + uid);
-    ASSERT_EQ(chown((volume + "/.Trash-" + uid).c_str(), getuid() + 1, getgid()), 0);
-    EXPECT_FALSE(Trash::trashItem(item).trashed);
-    EXPECT_EQ(contentsOf(item), "on volume");
-    EXPECT_TRUE(fs::is_empty(volume + "/elsewhere/info"));
-}
-
-TEST_F(TrashTest, TheSharedVolumeTrashIsUsedOnlyWhenStickyAndNoLink)
-{
-    const std::string volume = tempHome.root() + "/volume";
-    const MountedVolume mounted(volume);
-    if (!mounted.error().empty())
-        GTEST_SKIP() << "cannot mount a test volume: " << mounted.error();
+    // The volume's shared trash is used only when it is sticky and no link.
     const std::string shared = volume + "/.Trash";
     const auto trashFolderOf = [&](const std::string& name) {
         writeFile(volume + "/" + name, name);
         const auto result = Trash::trashItem(volume + "/" + name);
         return result.trashed ? fs::path(*result.trashPath).parent_path().parent_path().string() : "";
     };
-
     fs::create_directory(shared);
     fs::permissions(shared, fs::perms::all);  // open to all, but not sticky
-    EXPECT_EQ(trashFolderOf("loose"), volume + "/.Trash-" + uid);
+    EXPECT_EQ(trashFolderOf("loose"), ownTrash);
     fs::remove(shared);
     fs::create_directory(volume + "/sticky");
     fs::permissions(volume + "/sticky", fs::perms::all | fs::perms::sticky_bit);
     fs::create_directory_symlink(volume + "/sticky", shared);
-    EXPECT_EQ(trashFolderOf("linked"), volume + "/.Trash-" + uid);
+    EXPECT_EQ(trashFolderOf("linked"), ownTrash);
     EXPECT_FALSE(exists(volume + "/sticky/" + uid));
-
     fs::remove(shared);
     fs::rename(volume + "/sticky", shared);
     EXPECT_EQ(trashFolderOf("proper"), shared + "/" + uid);
     EXPECT_NE(contentsOf(shared + "/" + uid + "/info/proper.trashinfo").find("\nPath=proper\n"), std::string::npos);
+
+    // A private trash that is a link, or another user's folder, could hand our files to
+    // someone else: refused, and the item stays.
+    fs::remove_all(shared);
+    fs::rename(ownTrash, volume + "/elsewhere");
+    fs::create_directory_symlink(volume + "/elsewhere", ownTrash);
+    EXPECT_FALSE(Trash::trashItem(item).trashed);
+    fs::remove(ownTrash);
+    fs::create_directory(ownTrash);
+    ASSERT_EQ(chown(ownTrash.c_str(), getuid() + 1, getgid()), 0);
+    EXPECT_FALSE(Trash::trashItem(item).trashed);
+    EXPECT_EQ(contentsOf(item), "on volume");
+    EXPECT_FALSE(exists(volume + "/elsewhere/info/a file.txt.trashinfo"));
 }
 
 TEST_F(TrashTest, ABindMountOfTheHomeVolumeUsesItsOwnTrash)
