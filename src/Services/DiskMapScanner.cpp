@@ -3,14 +3,18 @@
 #include "Platform/DirectoryWalker.h"
 #include "Platform/FileSystem.h"
 #include "Platform/Paths.h"
+#include "Services/TreeEventQueue.h"
 
 #include <algorithm>
 #include <array>
 #include <bit>
 #include <chrono>
+#include <exception>
 #include <fcntl.h>
 #include <filesystem>
 #include <span>
+#include <system_error>
+#include <thread>
 #include <unistd.h>
 #include <utility>
 #include <vector>
@@ -158,58 +162,47 @@ struct OpenFolder {
 
 static_assert(sizeof(OpenFolder) == 32);
 
-// Builds the tree bottom-up as the walker goes: a folder becomes a node once its last entry is
-// in, and each node is moved into its parent's list, never copied. The entries of all open
+// Builds the tree bottom-up from the walk's events: a folder becomes a node once its last entry
+// is in, and each node is moved into its parent's list, never copied. The entries of all open
 // folders lie on one stack, each folder's above its parent's, so a deep tree costs no list of
-// its own per level and a wide one reuses the same storage from folder to folder.
-class TreeGatherer : public DirectoryWalker::Visitor {
+// its own per level and a wide one reuses the same storage from folder to folder. Once the scan
+// is cancelled it takes nothing more; finish() then closes what is open.
+class TreeGatherer final : public TreeEvents {
 public:
     TreeGatherer(const std::string& rootPath, const CancelToken* token, const Progress& onProgress,
-                 const ChildHandler& onChild, HiddenEntries hidden)
-        : token_(token), onProgress_(onProgress), onChild_(onChild), skipsHidden_(hidden == HiddenEntries::skipped)
+                 const ChildHandler& onChild)
+        : token_(token), onProgress_(onProgress), onChild_(onChild)
     {
         open(DiskNode::Path(rootPath == "/" ? std::string_view() : std::string_view(rootPath)), {});
     }
 
-    DirectoryWalker::Action visit(const DirectoryWalker::Entry& entry) override
+    void item(std::string_view name, std::int64_t allocatedSize, Modified modified) override
     {
-        if (token_ && token_->isCancelled())
-            return DirectoryWalker::Action::stop;
-        if (skipsHidden_ && isHidden(entry.name))
-            return DirectoryWalker::Action::skip;
-        const ItemInfo& info = entry.info;
-        if (info.isFolder()) {
-            open(DiskNode::Path(top().own, entry.name), info.modified);
-            return DirectoryWalker::Action::descend;
-        }
-        bytesSeen_ += info.allocatedSize;
-        add(DiskNode::makeEntry(top().own, entry.name, info.allocatedSize, false, categoryOf(entry.name),
-                                info.modified));
-        return DirectoryWalker::Action::skip;
+        if (cancelled())
+            return;
+        bytesSeen_ += allocatedSize;
+        add(DiskNode::makeEntry(top().own, name, allocatedSize, false, categoryOf(name), modified));
     }
 
-    void leave(const DirectoryWalker::Entry&) override { closeTop(); }
-
-    // A folder whose listing broke off shows nothing of it, as one that can't be listed at all.
-    bool walksPartialListings() const override { return false; }
-
-    void unreadable(const DirectoryWalker::Entry& folder) override
+    void opened(std::string_view name, Clock::TimePoint modified) override
     {
-        if (folder.depth == 0) {
-            rootUnreadable_ = true;
+        if (!cancelled())
+            open(DiskNode::Path(top().own, name), modified);
+    }
+
+    void closed() override
+    {
+        if (!cancelled())
+            closeTop();
+    }
+
+    void unreadable() override
+    {
+        if (cancelled())
             return;
-        }
         const DiskNode::Path unlisted = std::move(top().own);
         folders_.pop_back();
         add(emptyFolder(top().own, unlisted.lastPart()));
-    }
-
-    // Nothing is known of it, not even that it is a folder: it counts as a file of 0 bytes.
-    void unmeasurable(int, std::string_view name, int) override
-    {
-        if ((token_ && token_->isCancelled()) || (skipsHidden_ && isHidden(name)))
-            return;
-        add(DiskNode::makeEntry(top().own, name, 0, false, categoryOf(name), std::nullopt));
     }
 
     // After a complete walk only the root is open; after a cancelled one, the folders it was in
@@ -223,9 +216,9 @@ public:
         return finishedFolder(prefix, name, modified, root.own, entries_, root.total, scratch_);
     }
 
-    bool rootUnreadable() const { return rootUnreadable_; }
-
 private:
+    bool cancelled() const { return token_ && token_->isCancelled(); }
+
     OpenFolder& top() { return folders_.back(); }
 
     void open(DiskNode::Path own, Modified modified)
@@ -289,17 +282,124 @@ private:
     const CancelToken* token_;
     const Progress& onProgress_;
     const ChildHandler& onChild_;
-    const bool skipsHidden_;
     std::vector<OpenFolder> folders_;  // the open folders, the root first
     std::vector<DiskNode> entries_;    // their entries so far, in the same order
     std::int64_t bytesSeen_ = 0;
     std::chrono::steady_clock::time_point lastProgress_{};
-    bool rootUnreadable_ = false;
     std::array<char, sizeof(std::uint64_t)> lastExtension_{};  // as spelled
     std::size_t lastExtensionLength_ = 0;  // 0 when the last file had none worth keeping
     FileCategory lastCategory_ = FileCategory::other;
     SortScratch scratch_;
 };
+
+// Decides on the walking thread what the walk enters, and passes on what it finds. Handing
+// over to a queue, it lets a batch go early where the builder would report something: a folder
+// finished (progress) or an entry of the root (streamed).
+class WalkFront final : public DirectoryWalker::Visitor {
+public:
+    WalkFront(TreeEvents& target, TreeEventQueue* queue, const CancelToken* token, HiddenEntries hidden)
+        : target_(target), queue_(queue), token_(token), skipsHidden_(hidden == HiddenEntries::skipped)
+    {
+    }
+
+    DirectoryWalker::Action visit(const DirectoryWalker::Entry& entry) override
+    {
+        if (stopping())
+            return DirectoryWalker::Action::stop;
+        if (skipsHidden_ && isHidden(entry.name))
+            return DirectoryWalker::Action::skip;
+        const ItemInfo& info = entry.info;
+        if (info.isFolder()) {
+            target_.opened(entry.name, info.modified);
+            return DirectoryWalker::Action::descend;
+        }
+        target_.item(entry.name, info.allocatedSize, info.modified);
+        if (entry.depth == 1)
+            handOverIfDue();
+        return DirectoryWalker::Action::skip;
+    }
+
+    void leave(const DirectoryWalker::Entry&) override
+    {
+        target_.closed();
+        handOverIfDue();
+    }
+
+    // A folder whose listing broke off shows nothing of it, as one that can't be listed at all.
+    bool walksPartialListings() const override { return false; }
+
+    void unreadable(const DirectoryWalker::Entry& folder) override
+    {
+        if (folder.depth == 0)
+            rootUnreadable_ = true;
+        else
+            target_.unreadable();
+    }
+
+    // Nothing is known of it, not even that it is a folder: it counts as a file of 0 bytes.
+    void unmeasurable(int, std::string_view name, int depth) override
+    {
+        if (stopping() || (skipsHidden_ && isHidden(name)))
+            return;
+        target_.item(name, 0, std::nullopt);
+        if (depth == 1)
+            handOverIfDue();
+    }
+
+    bool rootUnreadable() const { return rootUnreadable_; }
+
+private:
+    bool stopping() const { return (token_ && token_->isCancelled()) || (queue_ && queue_->abandoned()); }
+
+    void handOverIfDue()
+    {
+        if (queue_)
+            queue_->handOverIfDue();
+    }
+
+    TreeEvents& target_;
+    TreeEventQueue* const queue_;  // none when the tree is built on the walking thread
+    const CancelToken* const token_;
+    const bool skipsHidden_;
+    bool rootUnreadable_ = false;
+};
+
+// Walks below the open folder into `gatherer`. The walk runs on a thread of its own and the tree
+// is built on this one from what the walk hands over, so that building overlaps the walk's
+// waiting in the kernel; without a thread to be had, both happen here. Returns whether the root
+// turned out unreadable.
+bool walkInto(TreeGatherer& gatherer, int descriptor, const CancelToken* token, HiddenEntries hidden,
+              DirectoryWalker::ReadAheadMode readAhead)
+{
+    TreeEventQueue queue;
+    WalkFront front(queue, &queue, token, hidden);
+    std::exception_ptr walkFailure;
+    std::thread walker;
+    try {
+        walker = std::thread([&] {
+            try {
+                DirectoryWalker::walkDescriptor(descriptor, front, readAhead);
+            } catch (...) {
+                walkFailure = std::current_exception();
+            }
+            queue.finish();
+        });
+    } catch (const std::system_error&) {
+        WalkFront here(gatherer, nullptr, token, hidden);
+        DirectoryWalker::walkDescriptor(descriptor, here, readAhead);
+        return here.rootUnreadable();
+    }
+    try {
+        queue.replayInto(gatherer);
+    } catch (...) {
+        walker.join();
+        throw;
+    }
+    walker.join();
+    if (walkFailure)
+        std::rethrow_exception(walkFailure);
+    return front.rootUnreadable();
+}
 
 // An absolute path without trailing slashes, as the ids of the tree spell it.
 std::string normalisedRoot(const std::string& root)
@@ -348,10 +448,10 @@ DiskNode scanStreaming(const std::string& root, const std::shared_ptr<CancelToke
     if (descriptor < 0)
         return emptyFolder(prefix, name);
 
-    TreeGatherer gatherer(path, token.get(), onProgress, onChild, hidden);
-    DirectoryWalker::walkDescriptor(descriptor, gatherer, readAhead);
+    TreeGatherer gatherer(path, token.get(), onProgress, onChild);
+    const bool rootUnreadable = walkInto(gatherer, descriptor, token.get(), hidden, readAhead);
     close(descriptor);
-    if (gatherer.rootUnreadable())
+    if (rootUnreadable)
         return emptyFolder(prefix, name);
     return gatherer.finish(prefix, name, modified);
 }

@@ -1,0 +1,119 @@
+#include "Services/TreeEventQueue.h"
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <chrono>
+#include <functional>
+#include <stdexcept>
+#include <string>
+#include <thread>
+#include <vector>
+
+namespace {
+
+using namespace std::chrono_literals;
+
+// Spells each event out, so two runs compare as lists of text.
+struct Recorder final : TreeEvents {
+    std::vector<std::string> seen;
+    std::function<void()> onEach;
+
+    void record(std::string text)
+    {
+        seen.push_back(std::move(text));
+        if (onEach)
+            onEach();
+    }
+    void item(std::string_view name, std::int64_t size, std::optional<Clock::TimePoint> modified) override
+    {
+        record("item " + std::string(name) + " " + std::to_string(size) + " " +
+               (modified ? std::to_string(modified->time_since_epoch().count()) : "-"));
+    }
+    void opened(std::string_view name, Clock::TimePoint modified) override
+    {
+        record("opened " + std::string(name) + " " + std::to_string(modified.time_since_epoch().count()));
+    }
+    void closed() override { record("closed"); }
+    void unreadable() override { record("unreadable"); }
+};
+
+// Puts events of every kind, with names from empty to long and bytes that are not text, into
+// `events`: enough to fill the queue's whole ring several times over.
+void putMany(TreeEvents& events, int count)
+{
+    for (int i = 0; i < count; ++i) {
+        const std::string name = std::string(i % 300, 'n') + "\xff\x01" + std::to_string(i);
+        const Clock::TimePoint when{Clock::TimePoint::duration(-i * 1000LL)};
+        switch (i % 5) {
+        case 0: events.opened(name, when); break;
+        case 1: events.item(name, i * 512LL, when); break;
+        case 2: events.item(name, 0, std::nullopt); break;
+        case 3: events.closed(); break;
+        default: events.unreadable(); break;
+        }
+    }
+}
+
+TEST(TreeEventQueueTest, ReplaysEveryEventInOrderWhenTheBuilderFallsBehind)
+{
+    Recorder expected;
+    putMany(expected, 60000);
+    TreeEventQueue queue;
+    std::thread walker([&] {
+        putMany(queue, 60000);
+        queue.finish();
+    });
+    Recorder replayed;
+    // A builder that stalls at first makes the walk wait for room in the ring.
+    replayed.onEach = [&] {
+        if (replayed.seen.size() == 1)
+            std::this_thread::sleep_for(100ms);
+    };
+    queue.replayInto(replayed);
+    walker.join();
+    EXPECT_EQ(replayed.seen, expected.seen);
+}
+
+TEST(TreeEventQueueTest, ABuilderThatFailsStopsTheWalkInsteadOfBlockingIt)
+{
+    TreeEventQueue queue;
+    std::thread walker([&] {
+        for (int i = 0; i < 100000 && !queue.abandoned(); ++i)
+            queue.item("file", 512, std::nullopt);
+        queue.finish();
+    });
+    Recorder failing;
+    failing.onEach = [&] {
+        if (failing.seen.size() == 10)
+            throw std::runtime_error("out of memory");
+    };
+    EXPECT_THROW(queue.replayInto(failing), std::runtime_error);
+    walker.join();  // would hang if the walk still waited for room
+    EXPECT_TRUE(queue.abandoned());
+}
+
+TEST(TreeEventQueueTest, AnEventThatWaitedLongEnoughArrivesBeforeTheBatchFills)
+{
+    TreeEventQueue queue;
+    std::atomic<bool> arrived{false};
+    bool arrivedBeforeFinish = false;
+    std::thread walker([&] {
+        queue.opened("slow", {});
+        std::this_thread::sleep_for(TreeEventQueue::longestWait);
+        queue.handOverIfDue();
+        const auto deadline = std::chrono::steady_clock::now() + 10s;
+        while (!arrived && std::chrono::steady_clock::now() < deadline)
+            std::this_thread::sleep_for(1ms);
+        arrivedBeforeFinish = arrived;
+        queue.finish();
+    });
+    Recorder builder;
+    builder.onEach = [&] { arrived = true; };
+    queue.replayInto(builder);
+    walker.join();
+    EXPECT_TRUE(arrivedBeforeFinish);
+    EXPECT_EQ(builder.seen, std::vector<std::string>{"opened slow 0"});
+}
+
+}  // namespace
