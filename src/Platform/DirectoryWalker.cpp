@@ -164,7 +164,8 @@ private:
             considerReadingAhead();
         }
         const Frame& parent = stack_[level];
-        struct stat status {};
+        // Not cleared first: the call fills it, and clearing it for every entry shows in a walk.
+        struct stat status;
         if (fstatat(parent.descriptor, names_.c_str() + start, &status, AT_SYMLINK_NOFOLLOW) != 0) {
             visitor_.unmeasurable(parent.descriptor, nameAt(start, length), parent.depth + 1);
             return true;
