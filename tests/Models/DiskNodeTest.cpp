@@ -36,42 +36,37 @@ TEST(DiskNodeTest, KeepsEveryFieldHoweverTheIdIsSpelled)
     EXPECT_EQ(file("relative", "other", 1).name(), "other");
 }
 
-TEST(DiskNodeTest, CopiesShareSubtreesAndChangesStayWithTheirCopy)
+// Equality and the hash take every field and the children in order; a copy shares the record
+// and its subtree, and a setter changes its own handle only.
+TEST(DiskNodeTest, EqualityTakesAllFieldsAndChangesStayWithTheirCopy)
 {
-    DiskNode original("/r", "r", 3, true, FileCategory::other, std::nullopt, false, {file("/r/a", "a", 3)});
+    const auto folder = [](std::vector<DiskNode> children, std::int64_t size = 3) {
+        return DiskNode("/r", "r", size, true, FileCategory::other, std::nullopt, false, std::move(children));
+    };
+    const DiskNode a = file("/r/a", "a", 2);
+    const DiskNode b = file("/r/b", "b", 1);
+    const DiskNode original = folder({a, b});
+    EXPECT_EQ(original, folder({file("/r/a", "a", 2), file("/r/b", "b", 1)}));
+    EXPECT_EQ(std::hash<DiskNode>{}(original), std::hash<DiskNode>{}(folder({a, b})));
+    EXPECT_NE(original, folder({b, a}));
+    EXPECT_NE(original, folder({a, b}, 4));
+    EXPECT_NE(original, folder({a, file("/r/c", "b", 1)}));
+    EXPECT_EQ(DiskNode(), DiskNode("", "", 0, false, FileCategory::other, std::nullopt, false, {}));
+
     DiskNode changed = original;
     EXPECT_TRUE(changed.sharesRecordWith(original));
-
-    changed.setCategory(FileCategory::audio);
     changed.setModified(Clock::TimePoint(std::chrono::seconds(9)));
+    EXPECT_NE(changed, original);
+    changed.setCategory(FileCategory::audio);
     changed.setSynthetic(true);
     EXPECT_EQ(original.category(), FileCategory::other);
     EXPECT_FALSE(original.modified());
     EXPECT_FALSE(original.isSynthetic());
     EXPECT_TRUE(changed.children()[0].sharesRecordWith(original.children()[0])) << "the subtree is not copied";
     EXPECT_EQ(changed.id(), "/r");
-
     changed.setChildren({});
-    EXPECT_EQ(original.children().size(), 1u);
+    EXPECT_EQ(original.children().size(), 2u);
     EXPECT_TRUE(changed.children().empty());
-}
-
-TEST(DiskNodeTest, EqualityAndHashTakeAllFieldsAndChildOrder)
-{
-    const auto make = [](std::vector<DiskNode> children, std::int64_t size = 3) {
-        return DiskNode("/r", "r", size, true, FileCategory::other, std::nullopt, false, std::move(children));
-    };
-    const DiskNode a = file("/r/a", "a", 2);
-    const DiskNode b = file("/r/b", "b", 1);
-    EXPECT_EQ(make({a, b}), make({file("/r/a", "a", 2), file("/r/b", "b", 1)}));
-    EXPECT_EQ(std::hash<DiskNode>{}(make({a, b})), std::hash<DiskNode>{}(make({a, b})));
-    EXPECT_NE(make({a, b}), make({b, a}));
-    EXPECT_NE(make({a, b}), make({a, b}, 4));
-    EXPECT_NE(make({a, b}), make({a, file("/r/c", "b", 1)}));
-    DiskNode later = a;
-    later.setModified(std::nullopt);
-    EXPECT_NE(make({a, b}), make({later, b}));
-    EXPECT_EQ(DiskNode(), DiskNode("", "", 0, false, FileCategory::other, std::nullopt, false, {}));
 }
 
 // Records are cut from slabs that one thread fills and any thread may free. A tree made on a
