@@ -155,3 +155,9 @@ TEST_F(TempHomeTest, AnEntryThatVanishesMidWalkIsPassedOver)
     EXPECT_TRUE(DirectoryWalker::walk(root, vanisher));
     EXPECT_EQ(vanisher.seen, 1);
 }
+
+// A file's length is not the blocks it takes: a length changed within the same blocks must show.
+TEST_F(TempHomeTest, AFilesLengthIsNotItsBlocks)
+{
+    EXPECT_EQ(FileSystem::info(tempHome.writeFile("one-byte", "x"))->logicalSize, 1);
+}
