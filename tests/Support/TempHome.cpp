@@ -8,8 +8,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-const char* const variables[] = {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_STATE_HOME"};
-
 void makeRemovable(const fs::path& root)
 {
     // Tests leave unreadable folders behind on purpose; give them back before removing.
@@ -32,27 +30,17 @@ TempHome::TempHome()
     // Resolved, so paths the code under test resolves compare equal to ours.
     root_ = fs::canonical(pattern).string();
     home_ = root_ + "/home";
-    for (const char* name : variables) {
-        const char* value = std::getenv(name);
-        saved_[name] = value ? std::optional<std::string>(value) : std::nullopt;
-    }
-    const std::map<std::string, std::string> values = {
+    const std::pair<const char*, std::string> values[] = {
         {"HOME", home_}, {"XDG_CONFIG_HOME", configHome()}, {"XDG_DATA_HOME", dataHome()},
         {"XDG_CACHE_HOME", home_ + "/.cache"}, {"XDG_STATE_HOME", home_ + "/.local/state"}};
     for (const auto& [name, value] : values) {
         fs::create_directories(value);
-        setenv(name.c_str(), value.c_str(), 1);
+        variables_.emplace_back(name, value);
     }
 }
 
 TempHome::~TempHome()
 {
-    for (const auto& [name, value] : saved_) {
-        if (value)
-            setenv(name.c_str(), value->c_str(), 1);
-        else
-            unsetenv(name.c_str());
-    }
     makeRemovable(root_);
     std::error_code error;
     fs::remove_all(root_, error);

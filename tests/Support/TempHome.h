@@ -1,9 +1,10 @@
 #pragma once
 
+#include "Support/ScopedVariable.h"
+
 #include <gtest/gtest.h>
 
-#include <map>
-#include <optional>
+#include <deque>
 #include <string>
 
 // Points HOME and the XDG folders at a fresh temporary folder for its lifetime, then restores
@@ -28,7 +29,7 @@ public:
 private:
     std::string root_;
     std::string home_;
-    std::map<std::string, std::optional<std::string>> saved_;
+    std::deque<ScopedVariable> variables_;  // put back as they were when this goes
 };
 
 // A test with its own temporary home.
