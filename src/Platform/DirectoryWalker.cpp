@@ -282,3 +282,14 @@ bool DirectoryWalker::walkDescriptor(int folderDescriptor, Visitor& visitor, Rea
 {
     return Walk(visitor, readAhead).run(folderDescriptor);
 }
+
+void DirectoryWalker::reserveDescriptors(int anyDescriptor)
+{
+    // Room for what the process holds besides the walk's own, which take the lowest free numbers.
+    constexpr int othersHeld = 256;
+    // The lowest free number from there on, so nothing open is touched; the table has grown to
+    // hold it by the time the call returns.
+    const int placeholder = fcntl(anyDescriptor, F_DUPFD_CLOEXEC, openDepthLimit() + othersHeld);
+    if (placeholder >= 0)
+        close(placeholder);
+}

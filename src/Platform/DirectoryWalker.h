@@ -56,4 +56,11 @@ public:
 
     // The same below an already open folder, which the walker does not close.
     static bool walkDescriptor(int folderDescriptor, Visitor& visitor, ReadAheadMode readAhead = ReadAheadMode::off);
+
+    // Grows the process's table of descriptors at once to what the deepest walk keeps open, given
+    // any open descriptor. The table only ever grows, by doubling, and in a process of several
+    // threads each growth waits for every processor to pass a quiet point; a walk thousands of
+    // levels deep would wait like that six times. Costs nothing to speak of before the process
+    // starts its threads, and once at most after.
+    static void reserveDescriptors(int anyDescriptor);
 };

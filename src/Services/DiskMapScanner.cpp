@@ -371,6 +371,7 @@ private:
 bool walkInto(TreeGatherer& gatherer, int descriptor, const CancelToken* token, HiddenEntries hidden,
               DirectoryWalker::ReadAheadMode readAhead)
 {
+    DirectoryWalker::reserveDescriptors(descriptor);
     TreeEventQueue queue;
     WalkFront front(queue, &queue, token, hidden);
     std::exception_ptr walkFailure;
