@@ -51,8 +51,8 @@ void TreeEventQueue::put(Kind kind, std::string_view name, std::int64_t size, st
 {
     if (filling_.empty()) {
         fillingSince_ = std::chrono::steady_clock::now();
-        // A name is at most a few hundred bytes: a batch then never grows past its first storage.
-        filling_.reserve(batchBytes + sizeof(Header) + 4096);
+        // A name is at most 255 bytes: a batch then never grows past its first storage.
+        filling_.reserve(batchBytes + sizeof(Header) + 256);
     }
     const Header header{size,     modified ? modified->time_since_epoch().count() : 0,
                         static_cast<std::uint32_t>(name.size()), static_cast<std::uint8_t>(kind),

@@ -19,8 +19,8 @@
 class TreeEventQueue final : public TreeEvents {
 public:
     // Batches waiting to be replayed, at most; the walk waits when the builder is this far behind.
-    static constexpr std::size_t batchesInFlight = 16;
-    static constexpr std::size_t batchBytes = 32 * 1024;
+    static constexpr std::size_t batchesInFlight = 8;
+    static constexpr std::size_t batchBytes = 16 * 1024;
     static constexpr auto longestWait = std::chrono::milliseconds(50);
 
     TreeEventQueue();
