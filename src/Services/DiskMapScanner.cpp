@@ -292,15 +292,25 @@ private:
     SortScratch scratch_;
 };
 
-// Decides on the walking thread what the walk enters, and passes on what it finds. Handing
-// over to a queue, it lets a batch go early where the builder would report something: a folder
-// finished (progress) or an entry of the root (streamed).
+// Decides what the walk enters and passes on what it finds. It builds the tree on the walking
+// thread at first; once the walk has met enough entries to be worth it, building moves to a
+// thread of its own, fed in batches, so that it overlaps the walk's waiting in the kernel. A small
+// tree then costs no thread, and a large one no time spent building between two answers. Handing
+// over to the queue, a batch goes early where the builder reports something: a folder finished
+// (progress) or an entry of the root (streamed).
 class WalkFront final : public DirectoryWalker::Visitor {
 public:
-    WalkFront(TreeEvents& target, TreeEventQueue* queue, const CancelToken* token, HiddenEntries hidden)
-        : target_(target), queue_(queue), token_(token), skipsHidden_(hidden == HiddenEntries::skipped)
+    // Entries walked before building moves to its own thread.
+    static constexpr std::uint32_t entriesBuiltHere = 20000;
+
+    WalkFront(TreeGatherer& gatherer, int rootDescriptor, const CancelToken* token, HiddenEntries hidden)
+        : gatherer_(gatherer), target_(&gatherer), rootDescriptor_(rootDescriptor), token_(token),
+          skipsHidden_(hidden == HiddenEntries::skipped)
     {
     }
+
+    // Lets a builder that is still running catch up, should the walk end by an exception.
+    ~WalkFront() override { waitForBuilder(); }
 
     DirectoryWalker::Action visit(const DirectoryWalker::Entry& entry) override
     {
@@ -308,12 +318,14 @@ public:
             return DirectoryWalker::Action::stop;
         if (skipsHidden_ && isHidden(entry.name))
             return DirectoryWalker::Action::skip;
+        if (++entriesSeen_ == entriesBuiltHere)
+            startBuilder();
         const ItemInfo& info = entry.info;
         if (info.isFolder()) {
-            target_.opened(entry.name, info.modified);
+            target_->opened(entry.name, info.modified);
             return DirectoryWalker::Action::descend;
         }
-        target_.item(entry.name, info.allocatedSize, info.modified);
+        target_->item(entry.name, info.allocatedSize, info.modified);
         if (entry.depth == 1)
             handOverIfDue();
         return DirectoryWalker::Action::skip;
@@ -321,7 +333,7 @@ public:
 
     void leave(const DirectoryWalker::Entry&) override
     {
-        target_.closed();
+        target_->closed();
         handOverIfDue();
     }
 
@@ -333,7 +345,7 @@ public:
         if (folder.depth == 0)
             rootUnreadable_ = true;
         else
-            target_.unreadable();
+            target_->unreadable();
     }
 
     // Nothing is known of it, not even that it is a folder: it counts as a file of 0 bytes.
@@ -341,66 +353,70 @@ public:
     {
         if (stopping() || (skipsHidden_ && isHidden(name)))
             return;
-        target_.item(name, 0, std::nullopt);
+        target_->item(name, 0, std::nullopt);
         if (depth == 1)
             handOverIfDue();
+    }
+
+    // After the walk: waits until everything handed over is built, and passes on the builder's
+    // failure. The tree is then the gatherer's, on this thread.
+    void finish()
+    {
+        waitForBuilder();
+        if (builderFailure_)
+            std::rethrow_exception(std::exchange(builderFailure_, nullptr));
     }
 
     bool rootUnreadable() const { return rootUnreadable_; }
 
 private:
-    bool stopping() const { return (token_ && token_->isCancelled()) || (queue_ && queue_->abandoned()); }
+    bool building() const { return builder_.joinable(); }
+
+    bool stopping() const { return (token_ && token_->isCancelled()) || (building() && queue_.abandoned()); }
+
+    void startBuilder()
+    {
+        // While this is the only thread, the descriptor table grows without waiting on the others.
+        DirectoryWalker::reserveDescriptors(rootDescriptor_);
+        try {
+            builder_ = std::thread([this] {
+                try {
+                    queue_.replayInto(gatherer_);
+                } catch (...) {
+                    builderFailure_ = std::current_exception();
+                }
+            });
+        } catch (const std::system_error&) {
+            return;  // no thread to be had: building goes on here
+        }
+        target_ = &queue_;
+    }
 
     void handOverIfDue()
     {
-        if (queue_)
-            queue_->handOverIfDue();
+        if (building())
+            queue_.handOverIfDue();
     }
 
-    TreeEvents& target_;
-    TreeEventQueue* const queue_;  // none when the tree is built on the walking thread
+    void waitForBuilder()
+    {
+        if (!building())
+            return;
+        queue_.finish();
+        builder_.join();
+    }
+
+    TreeGatherer& gatherer_;
+    TreeEventQueue queue_;
+    TreeEvents* target_;  // the gatherer, then the queue once building has moved
+    const int rootDescriptor_;
     const CancelToken* const token_;
     const bool skipsHidden_;
+    std::uint32_t entriesSeen_ = 0;
     bool rootUnreadable_ = false;
+    std::thread builder_;
+    std::exception_ptr builderFailure_;
 };
-
-// Walks below the open folder into `gatherer`. The walk runs on a thread of its own and the tree
-// is built on this one from what the walk hands over, so that building overlaps the walk's
-// waiting in the kernel; without a thread to be had, both happen here. Returns whether the root
-// turned out unreadable.
-bool walkInto(TreeGatherer& gatherer, int descriptor, const CancelToken* token, HiddenEntries hidden,
-              DirectoryWalker::ReadAheadMode readAhead)
-{
-    DirectoryWalker::reserveDescriptors(descriptor);
-    TreeEventQueue queue;
-    WalkFront front(queue, &queue, token, hidden);
-    std::exception_ptr walkFailure;
-    std::thread walker;
-    try {
-        walker = std::thread([&] {
-            try {
-                DirectoryWalker::walkDescriptor(descriptor, front, readAhead);
-            } catch (...) {
-                walkFailure = std::current_exception();
-            }
-            queue.finish();
-        });
-    } catch (const std::system_error&) {
-        WalkFront here(gatherer, nullptr, token, hidden);
-        DirectoryWalker::walkDescriptor(descriptor, here, readAhead);
-        return here.rootUnreadable();
-    }
-    try {
-        queue.replayInto(gatherer);
-    } catch (...) {
-        walker.join();
-        throw;
-    }
-    walker.join();
-    if (walkFailure)
-        std::rethrow_exception(walkFailure);
-    return front.rootUnreadable();
-}
 
 // An absolute path without trailing slashes, as the ids of the tree spell it.
 std::string normalisedRoot(const std::string& root)
@@ -450,9 +466,11 @@ DiskNode scanStreaming(const std::string& root, const std::shared_ptr<CancelToke
         return emptyFolder(prefix, name);
 
     TreeGatherer gatherer(path, token.get(), onProgress, onChild);
-    const bool rootUnreadable = walkInto(gatherer, descriptor, token.get(), hidden, readAhead);
+    WalkFront front(gatherer, descriptor, token.get(), hidden);
+    DirectoryWalker::walkDescriptor(descriptor, front, readAhead);
+    front.finish();
     close(descriptor);
-    if (rootUnreadable)
+    if (front.rootUnreadable())
         return emptyFolder(prefix, name);
     return gatherer.finish(prefix, name, modified);
 }

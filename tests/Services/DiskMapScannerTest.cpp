@@ -273,6 +273,49 @@ TEST_F(DiskMapScannerTest, ReportsProgressBeforeEachStreamedFolder)
     EXPECT_EQ(streamedTotal, root.size());
 }
 
+// Past a number of entries, building moves to a thread of its own mid-walk: nothing may be lost
+// or doubled at the move, the streamed entries keep their order, and cancelling still stops the
+// walk with a consistent tree.
+TEST_F(DiskMapScannerTest, ALargeWalkBuildsOnItsOwnThreadWithoutLosingAnything)
+{
+    // Hard links to one file: quicker to make than as many files, and each counts in full.
+    const std::string original = path("original");
+    tempHome.writeFile("original", std::string(100, 'x'));
+    int files = 0;
+    for (const char* folder : {"a", "b", "c", "d"}) {
+        const std::string parent = tempHome.makeFolder(std::string("root/") + folder);
+        for (int i = 0; i < 7000; ++i, ++files)
+            ASSERT_EQ(link(original.c_str(), (parent + "/" + std::to_string(i)).c_str()), 0);
+    }
+    const std::int64_t expectedSize = files * TreeBuilder::allocatedSize(original);
+    std::vector<std::string> streamed;
+    const DiskNode root = scan(path("root"), std::make_shared<CancelToken>(), {},
+                               [&](const DiskNode& node) { streamed.push_back(std::string(node.name())); });
+    EXPECT_EQ(root.size(), expectedSize);
+    EXPECT_EQ(streamed, listed(path("root"), false));
+    int nodes = 0;
+    std::vector<const DiskNode*> pending{&root};
+    while (!pending.empty()) {
+        const DiskNode* node = pending.back();
+        pending.pop_back();
+        nodes += node->isSynthetic() ? 0 : 1;
+        for (const DiskNode& child : node->children())
+            pending.push_back(&child);
+    }
+    EXPECT_EQ(nodes, files + 5) << "every file, the four folders and the root";
+    expectConsistent(root);
+
+    // The third folder finishes past the move: cancelling then leaves the fourth out.
+    auto token = std::make_shared<CancelToken>();
+    int reports = 0;
+    const DiskNode partial = scan(path("root"), token, [&](std::int64_t) {
+        if (++reports == 3)
+            token->cancel();
+    });
+    EXPECT_EQ(partial.size(), root.size() / 4 * 3);
+    expectConsistent(partial);
+}
+
 TEST_F(DiskMapScannerTest, CancelledMidWalkReturnsAConsistentPartialTree)
 {
     for (int folder = 0; folder < 4; ++folder)
