@@ -1,7 +1,5 @@
 #include "Models/FileCategory.h"
 
-#include "Models/RawValueLookup.h"
-
 #include <algorithm>
 #include <array>
 #include <cstdint>
@@ -148,11 +146,6 @@ std::string_view rawValue(FileCategory category)
     case FileCategory::other: return "other";
     }
     return {};
-}
-
-std::optional<FileCategory> fromRawValue(std::string_view raw)
-{
-    return caseForRawValue(all, rawValue, raw);
 }
 
 std::string_view label(FileCategory category)

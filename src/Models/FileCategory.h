@@ -27,7 +27,6 @@ inline constexpr std::array<FileCategory, 9> all = {
     FileCategory::documents, FileCategory::caches, FileCategory::other};
 
 std::string_view rawValue(FileCategory category);
-std::optional<FileCategory> fromRawValue(std::string_view raw);
 
 // The English label, which is also the key the views translate it by.
 std::string_view label(FileCategory category);

@@ -120,11 +120,6 @@ bool removeItemAt(int folderDescriptor, const std::string& name)
     return unlinkat(folderDescriptor, name.c_str(), AT_REMOVEDIR) == 0 || errno == ENOENT;
 }
 
-bool moveItem(const std::string& from, const std::string& to)
-{
-    return rename(from.c_str(), to.c_str()) == 0;
-}
-
 bool moveItemWithoutReplacing(const std::string& from, const std::string& to)
 {
     if (renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0)

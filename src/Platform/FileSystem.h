@@ -29,9 +29,8 @@ bool removeItem(const std::string& path);
 // The same for `name` (a single name, or a path) relative to the open folder `folderDescriptor`.
 bool removeItemAt(int folderDescriptor, const std::string& name);
 
-// Renames within one volume; false across volumes or when `to` exists as a non-empty folder.
-bool moveItem(const std::string& from, const std::string& to);
-// The same, but false when anything at all is at `to`: nothing there is ever replaced.
+// Renames within one volume; false across volumes, or when anything at all is at `to`: nothing
+// there is ever replaced.
 bool moveItemWithoutReplacing(const std::string& from, const std::string& to);
 
 // Creates the folder and any missing parents; true when a folder is there afterwards.
