@@ -135,20 +135,23 @@ peak_kb() {  # the highest resident set of one run, in KB
   /usr/bin/time -v $1 "$2" 2>&1 >/dev/null | awk -F': ' '/Maximum resident set size/ { print $2 }'
 }
 
-# Bytes per item each tool adds over its start on an empty folder; the least of three runs, as a
-# parallel walker's peak varies.
+# The median of five runs' peaks, in KB: one run's resident set varies by a few hundred KB even
+# on an empty folder (a parallel walker's peak varies more), which on a small tree is a fifth of
+# what is measured.
+median_peak_kb() {
+  for _ in 1 2 3 4 5; do peak_kb "$1" "$2"; done | sort -n | sed -n 3p
+}
+
+# Bytes per item each tool adds over its start on an empty folder.
 print_memory() {
   local tree=$1 items=$2
   for name in "${order[@]}"; do
     [ "$name" = floor ] || [ "$name" = "mopwell-scan no read-ahead" ] && continue
-    local best="" kb base
-    for _ in 1 2 3; do
-      kb=$(peak_kb "${commands[$name]}" "$tree")
-      if [ -z "$best" ] || [ "$kb" -lt "$best" ]; then best=$kb; fi
-    done
-    base=$(peak_kb "${commands[$name]}" "$empty")
-    perItem=$(awk -v p="$best" -v b="$base" -v n="$items" 'BEGIN { printf "%.1f", (p - b) * 1024 / n }')
-    printf "  %-22s peak %7d KB, empty %6d KB, %7s bytes per item\n" "$name" "$best" "$base" "$perItem"
+    local peak base
+    peak=$(median_peak_kb "${commands[$name]}" "$tree")
+    base=$(median_peak_kb "${commands[$name]}" "$empty")
+    perItem=$(awk -v p="$peak" -v b="$base" -v n="$items" 'BEGIN { printf "%.1f", (p - b) * 1024 / n }')
+    printf "  %-22s peak %7d KB, empty %6d KB, %7s bytes per item\n" "$name" "$peak" "$base" "$perItem"
     if [ "$name" = "mopwell-scan diskmap" ]; then echo "$perItem" >"$work/memory"; fi
   done
 }
