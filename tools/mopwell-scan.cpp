@@ -97,20 +97,6 @@ nlohmann::ordered_json jsonOf(const DiskNode& root)
     return document;
 }
 
-std::int64_t itemCount(const DiskNode& root)
-{
-    std::int64_t count = 0;
-    std::vector<const DiskNode*> pending{&root};
-    while (!pending.empty()) {
-        const DiskNode* node = pending.back();
-        pending.pop_back();
-        count += node->isSynthetic() ? 0 : 1;
-        for (const DiskNode& child : node->children())
-            pending.push_back(&child);
-    }
-    return count;
-}
-
 // The path and the options in any order.
 int printDiskMap(const std::vector<std::string>& arguments)
 {
@@ -149,7 +135,7 @@ int printDiskMap(const std::vector<std::string>& arguments)
         return 0;
     }
     std::printf("%lld bytes\t%lld items\t%.3f s\n", static_cast<long long>(root.size()),
-                static_cast<long long>(itemCount(root)), elapsed.count());
+                static_cast<long long>(root.itemCount()), elapsed.count());
     return 0;
 }
 

@@ -400,6 +400,20 @@ void DiskNode::setChildren(std::vector<DiskNode> children)
     *this = rebuilt(std::move(children));
 }
 
+std::int64_t DiskNode::itemCount() const
+{
+    std::int64_t count = 0;
+    std::vector<const DiskNode*> pending{this};
+    while (!pending.empty()) {
+        const DiskNode* node = pending.back();
+        pending.pop_back();
+        count += node->isSynthetic() ? 0 : 1;
+        for (const DiskNode& child : node->children())
+            pending.push_back(&child);
+    }
+    return count;
+}
+
 bool DiskNode::operator==(const DiskNode& other) const
 {
     std::vector<std::pair<const DiskNode*, const DiskNode*>> pending{{this, &other}};

@@ -92,6 +92,9 @@ public:
     bool isSynthetic() const;
     // Kept entries in descending size, the synthetic node, if any, last. Empty for files.
     std::span<const DiskNode> children() const;
+    // This node and every one below it, synthetic nodes not counted: the items the walk found.
+    // Counted without recursion.
+    std::int64_t itemCount() const;
 
     void setCategory(FileCategory category);
     void setModified(std::optional<Clock::TimePoint> modified);
