@@ -33,6 +33,11 @@ void* map(std::size_t bytes)
     return wide + head;
 }
 
+void* mapPages(std::size_t bytes)
+{
+    return mapped(bytes);
+}
+
 void unmap(void* memory, std::size_t bytes)
 {
     munmap(memory, bytes);

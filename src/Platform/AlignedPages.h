@@ -11,7 +11,10 @@ namespace AlignedPages {
 // Throws std::bad_alloc when the system has none.
 void* map(std::size_t bytes);
 
-// Gives back what map(bytes) returned.
+// `bytes` of zeroed memory at a page boundary, of any size.
+void* mapPages(std::size_t bytes);
+
+// Gives back what map(bytes) or mapPages(bytes) returned.
 void unmap(void* memory, std::size_t bytes);
 
 }  // namespace AlignedPages

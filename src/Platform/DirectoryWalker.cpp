@@ -1,6 +1,7 @@
 #include "Platform/DirectoryWalker.h"
 
 #include "Platform/KernelListing.h"
+#include "Platform/PageAllocator.h"
 #include "Platform/PosixItemInfo.h"
 #include "Platform/ReadAhead.h"
 
@@ -57,10 +58,14 @@ struct Frame {
     }
 };
 
+// The stacks a walk grows by a level or a listing at a time; a deep tree makes them large.
+using Names = std::basic_string<char, std::char_traits<char>, PageAllocator<char>>;
+using Frames = std::vector<Frame, PageAllocator<Frame>>;
+
 // Appends the names of the folder open at `descriptor`, without "." and "..", each followed by
 // a zero byte, and sets `self` to the inode number "." is listed with (0 if it isn't). A read
 // that fails ends the listing with what was read, and false.
-bool appendListing(int descriptor, std::string& names, std::vector<std::uint64_t>& buffer, std::uint64_t& self)
+bool appendListing(int descriptor, Names& names, std::vector<std::uint64_t>& buffer, std::uint64_t& self)
 {
     return forEachListed(descriptor, buffer, self, [&names](const char* name) { names.append(name, std::strlen(name) + 1); });
 }
@@ -237,6 +242,8 @@ private:
         const Frame finished = stack_.back();
         stack_.pop_back();
         names_.resize(finished.listingStart);
+        releaseUnused(stack_);
+        releaseUnused(names_);
         if (stack_.empty())
             return true;  // the root: its descriptor belongs to the caller
         Frame& parent = stack_.back();
@@ -254,8 +261,8 @@ private:
     }
 
     DirectoryWalker::Visitor& visitor_;
-    std::vector<Frame> stack_;
-    std::string names_;                  // the listings of the open folders, outermost first
+    Frames stack_;
+    Names names_;                       // the listings of the open folders, outermost first
     std::vector<std::uint64_t> buffer_;  // the kernel's records of one read, 8-byte aligned
     int borrowed_ = -1;
     const int openDepthLimit_;

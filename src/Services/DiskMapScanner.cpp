@@ -2,6 +2,7 @@
 
 #include "Platform/DirectoryWalker.h"
 #include "Platform/FileSystem.h"
+#include "Platform/PageAllocator.h"
 #include "Platform/Paths.h"
 #include "Services/TreeEventQueue.h"
 
@@ -268,6 +269,8 @@ private:
         DiskNode node = finishedFolder(top().own, folder.name(), folder.modified(), folder.own, children, folder.total,
                                        scratch_);
         entries_.resize(folder.firstEntry);
+        releaseUnused(entries_);
+        releaseUnused(folders_);
         add(std::move(node));
     }
 
@@ -282,8 +285,9 @@ private:
     const CancelToken* token_;
     const Progress& onProgress_;
     const ChildHandler& onChild_;
-    std::vector<OpenFolder> folders_;  // the open folders, the root first
-    std::vector<DiskNode> entries_;    // their entries so far, in the same order
+    // Both grow with the depth of the tree.
+    std::vector<OpenFolder, PageAllocator<OpenFolder>> folders_;  // the open folders, the root first
+    std::vector<DiskNode, PageAllocator<DiskNode>> entries_;      // their entries so far, in the same order
     std::int64_t bytesSeen_ = 0;
     std::chrono::steady_clock::time_point lastProgress_{};
     std::array<char, sizeof(std::uint64_t)> lastExtension_{};  // as spelled
