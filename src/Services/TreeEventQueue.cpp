@@ -60,19 +60,25 @@ void TreeEventQueue::put(Kind kind, std::string_view name, std::int64_t size, st
     filling_.append(reinterpret_cast<const char*>(&header), sizeof header);
     filling_.append(name);
     if (filling_.size() >= batchBytes)
-        handOver();
+        handOver(Wake::whenSeveral);
 }
 
 void TreeEventQueue::handOverIfDue()
 {
-    if (!filling_.empty() && std::chrono::steady_clock::now() - fillingSince_ >= longestWait)
-        handOver();
+    const auto oldest = unannounced_ ? unannouncedSince_ : fillingSince_;
+    if ((unannounced_ || !filling_.empty()) && std::chrono::steady_clock::now() - oldest >= longestWait)
+        handOver(Wake::now);
 }
 
-void TreeEventQueue::handOver()
+void TreeEventQueue::handOver(Wake wake)
 {
-    if (filling_.empty())
+    if (filling_.empty()) {
+        if (wake == Wake::now && std::exchange(unannounced_, false))
+            ready_.notify_one();
         return;
+    }
+    if (!unannounced_)
+        unannouncedSince_ = fillingSince_;
     std::unique_lock lock(mutex_);
     room_.wait(lock, [this] { return waitingCount_ < batchesInFlight || abandoned(); });
     if (abandoned()) {
@@ -86,13 +92,16 @@ void TreeEventQueue::handOver()
         filling_ = std::move(spares_.back());
         spares_.pop_back();
     }
+    const bool several = waitingCount_ >= batchesPerWake;
     lock.unlock();
-    ready_.notify_one();
+    unannounced_ = !(several || wake == Wake::now);
+    if (!unannounced_)
+        ready_.notify_one();
 }
 
 void TreeEventQueue::finish()
 {
-    handOver();
+    handOver(Wake::now);
     {
         const std::lock_guard lock(mutex_);
         finished_ = true;

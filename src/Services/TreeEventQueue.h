@@ -15,11 +15,15 @@
 // (making records, sorting folders, touching new memory) runs while the walk waits in the kernel
 // for the next item's metadata. One thread puts events in, one other replays them, in the same
 // order. Events travel in batches, one hand-over per batch rather than per event; a batch also
-// goes out once it has waited long enough, so a slow walk's findings are not held back.
+// goes out once it has waited long enough, so a slow walk's findings are not held back. The
+// builder, far quicker than the walk, is woken for several batches at a time: every wake is a
+// system call on the walk's side and, often enough, a switch on its processor.
 class TreeEventQueue final : public TreeEvents {
 public:
     // Batches waiting to be replayed, at most; the walk waits when the builder is this far behind.
     static constexpr std::size_t batchesInFlight = 8;
+    // Batches waiting when the builder is woken, unless one has waited longestWait.
+    static constexpr std::size_t batchesPerWake = 4;
     static constexpr std::size_t batchBytes = 16 * 1024;
     static constexpr auto longestWait = std::chrono::milliseconds(50);
 
@@ -30,7 +34,7 @@ public:
     void opened(std::string_view name, Clock::TimePoint modified) override;
     void closed() override;
     void unreadable() override;
-    // Hands the batch over if its first event has waited longestWait.
+    // Hands the batch over, and wakes the builder for it, if an event has waited longestWait.
     void handOverIfDue();
     // No more events come. Allocates nothing.
     void finish();
@@ -45,7 +49,8 @@ public:
 private:
     enum class Kind : std::uint8_t;
     void put(Kind kind, std::string_view name, std::int64_t size, std::optional<Clock::TimePoint> modified);
-    void handOver();
+    enum class Wake : bool { whenSeveral, now };
+    void handOver(Wake wake);
     void abandon();
     // Waits for the next batch and takes it into `batch`, whose storage goes to the spares; false
     // once the walk has finished and every batch is taken.
@@ -54,6 +59,10 @@ private:
 
     std::string filling_;  // the walking side's batch
     std::chrono::steady_clock::time_point fillingSince_;
+    // Batches handed over that the builder may not have been woken for, and when the first of
+    // them began filling.
+    bool unannounced_ = false;
+    std::chrono::steady_clock::time_point unannouncedSince_;
 
     std::mutex mutex_;
     std::condition_variable ready_;  // a batch is waiting, or the walk finished

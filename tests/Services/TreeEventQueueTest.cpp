@@ -93,27 +93,37 @@ TEST(TreeEventQueueTest, ABuilderThatFailsStopsTheWalkInsteadOfBlockingIt)
     EXPECT_TRUE(queue.abandoned());
 }
 
-TEST(TreeEventQueueTest, AnEventThatWaitedLongEnoughArrivesBeforeTheBatchFills)
+// The builder is woken for several batches at once, but nothing waits much longer than
+// longestWait for it: neither a batch being filled nor full ones handed over without a wake.
+TEST(TreeEventQueueTest, EventsThatWaitedLongEnoughArriveBeforeMoreCome)
 {
     TreeEventQueue queue;
-    std::atomic<bool> arrived{false};
-    bool arrivedBeforeFinish = false;
+    std::atomic<std::size_t> arrived{0};
+    std::vector<bool> arrivedInTime;
     std::thread walker([&] {
+        const auto handOverAfterAWait = [&](std::size_t expected) {
+            std::this_thread::sleep_for(TreeEventQueue::longestWait);
+            queue.handOverIfDue();
+            const auto deadline = std::chrono::steady_clock::now() + 10s;
+            while (arrived < expected && std::chrono::steady_clock::now() < deadline)
+                std::this_thread::sleep_for(1ms);
+            arrivedInTime.push_back(arrived == expected);
+        };
+        // Two batches exactly: with their 24-byte headers, 256 of these fill one.
+        for (int i = 0; i < 512; ++i)
+            queue.item(std::string(40, 'f'), 512, std::nullopt);
+        handOverAfterAWait(512);
         queue.opened("slow", {});
-        std::this_thread::sleep_for(TreeEventQueue::longestWait);
-        queue.handOverIfDue();
-        const auto deadline = std::chrono::steady_clock::now() + 10s;
-        while (!arrived && std::chrono::steady_clock::now() < deadline)
-            std::this_thread::sleep_for(1ms);
-        arrivedBeforeFinish = arrived;
+        handOverAfterAWait(513);
         queue.finish();
     });
     Recorder builder;
-    builder.onEach = [&] { arrived = true; };
+    builder.onEach = [&] { ++arrived; };
     queue.replayInto(builder);
     walker.join();
-    EXPECT_TRUE(arrivedBeforeFinish);
-    EXPECT_EQ(builder.seen, std::vector<std::string>{"opened slow 0"});
+    EXPECT_EQ(arrivedInTime, (std::vector<bool>{true, true}));
+    ASSERT_EQ(builder.seen.size(), 513u);
+    EXPECT_EQ(builder.seen.back(), "opened slow 0");
 }
 
 }  // namespace
