@@ -20,7 +20,8 @@
 # uncached tree (they never start on a cached one).
 #
 # Other work on the machine skews the figures: run it holding the build lock, so no build or test
-# runs meanwhile, and run it more than once.
+# runs meanwhile, and run it more than once. To tell apart differences of a few percent, time the
+# commands run by run instead: bench/interleaved.py.
 #   flock /tmp/mopwell-build.lock bench/diskmap.sh
 set -euo pipefail
 cd "$(dirname "$0")/.."
