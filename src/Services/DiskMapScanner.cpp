@@ -472,8 +472,8 @@ DiskNode scanStreaming(const std::string& root, const std::shared_ptr<CancelToke
     TreeGatherer gatherer(path, token.get(), onProgress, onChild);
     WalkFront front(gatherer, descriptor, token.get(), hidden);
     DirectoryWalker::walkDescriptor(descriptor, front, readAhead);
+    close(descriptor);  // before finish(), which passes on a builder's failure
     front.finish();
-    close(descriptor);
     if (front.rootUnreadable())
         return emptyFolder(prefix, name);
     return gatherer.finish(prefix, name, modified);
