@@ -290,13 +290,20 @@ bool DirectoryWalker::walkDescriptor(int folderDescriptor, Visitor& visitor, Rea
     return Walk(visitor, readAhead).run(folderDescriptor);
 }
 
-void DirectoryWalker::reserveDescriptors(int anyDescriptor)
+bool DirectoryWalker::useOwnDescriptorTable(int rootDescriptor)
 {
-    // Room for what the process holds besides the walk's own, which take the lowest free numbers.
-    constexpr int othersHeld = 256;
-    // The lowest free number from there on, so nothing open is touched; the table has grown to
-    // hold it by the time the call returns.
-    const int placeholder = fcntl(anyDescriptor, F_DUPFD_CLOEXEC, openDepthLimit() + othersHeld);
+    // Unsharing and closing what lies above in one call: a kernel without it does neither. The
+    // copies closed are this thread's alone; the files stay open for the rest of the process.
+    const unsigned above = static_cast<unsigned>(std::max(rootDescriptor, STDERR_FILENO)) + 1;
+    if (close_range(above, ~0U, CLOSE_RANGE_UNSHARE) != 0)
+        return false;
+    if (rootDescriptor > STDERR_FILENO + 1)
+        close_range(STDERR_FILENO + 1, static_cast<unsigned>(rootDescriptor) - 1, 0);
+    // The table grows by doubling to hold the highest number in use: here at once, to what the
+    // walk keeps open and room for the helpers reading ahead, which share it.
+    constexpr int helpersHold = 256;
+    const int placeholder = fcntl(rootDescriptor, F_DUPFD_CLOEXEC, openDepthLimit() + helpersHold);
     if (placeholder >= 0)
         close(placeholder);
+    return true;
 }

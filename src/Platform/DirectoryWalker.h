@@ -57,10 +57,13 @@ public:
     // The same below an already open folder, which the walker does not close.
     static bool walkDescriptor(int folderDescriptor, Visitor& visitor, ReadAheadMode readAhead = ReadAheadMode::off);
 
-    // Grows the process's table of descriptors at once to what the deepest walk keeps open, given
-    // any open descriptor. The table only ever grows, by doubling, and in a process of several
-    // threads each growth waits for every processor to pass a quiet point; a walk thousands of
-    // levels deep would wait like that six times. Costs nothing to speak of before the process
-    // starts its threads, and once at most after.
-    static void reserveDescriptors(int anyDescriptor);
+    // Gives the calling thread a descriptor table of its own holding only the standard three and
+    // `rootDescriptor`, grown at once to what the deepest walk keeps open. While other threads
+    // share a table, every call naming a descriptor takes and drops a reference on its file,
+    // which costs a walk a few percent; a table of its own also grows without waiting on the
+    // others. What the thread opens afterwards the rest of the process can't see, and what they
+    // open it can't: call it only on a thread made for the walk, which ends with it, and which
+    // hands what it finds to other threads through memory only. False, with nothing changed,
+    // where the system can't do it.
+    static bool useOwnDescriptorTable(int rootDescriptor);
 };

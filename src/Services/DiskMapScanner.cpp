@@ -296,25 +296,16 @@ private:
     SortScratch scratch_;
 };
 
-// Decides what the walk enters and passes on what it finds. It builds the tree on the walking
-// thread at first; once the walk has met enough entries to be worth it, building moves to a
-// thread of its own, fed in batches, so that it overlaps the walk's waiting in the kernel. A small
-// tree then costs no thread, and a large one no time spent building between two answers. Handing
-// over to the queue, a batch goes early where the builder reports something: a folder finished
+// Decides what the walk enters and passes on what it finds: to the queue that feeds the builder
+// on another thread, or straight to the builder when there is no other thread. Handing over to
+// the queue, a batch goes early where the builder reports something: a folder finished
 // (progress) or an entry of the root (streamed).
 class WalkFront final : public DirectoryWalker::Visitor {
 public:
-    // Entries walked before building moves to its own thread.
-    static constexpr std::uint32_t entriesBuiltHere = 20000;
-
-    WalkFront(TreeGatherer& gatherer, int rootDescriptor, const CancelToken* token, HiddenEntries hidden)
-        : gatherer_(gatherer), target_(&gatherer), rootDescriptor_(rootDescriptor), token_(token),
-          skipsHidden_(hidden == HiddenEntries::skipped)
+    WalkFront(TreeEvents& builder, TreeEventQueue* queue, const CancelToken* token, HiddenEntries hidden)
+        : target_(queue ? *queue : builder), queue_(queue), token_(token), skipsHidden_(hidden == HiddenEntries::skipped)
     {
     }
-
-    // Lets a builder that is still running catch up, should the walk end by an exception.
-    ~WalkFront() override { waitForBuilder(); }
 
     DirectoryWalker::Action visit(const DirectoryWalker::Entry& entry) override
     {
@@ -322,14 +313,12 @@ public:
             return DirectoryWalker::Action::stop;
         if (skipsHidden_ && isHidden(entry.name))
             return DirectoryWalker::Action::skip;
-        if (++entriesSeen_ == entriesBuiltHere)
-            startBuilder();
         const ItemInfo& info = entry.info;
         if (info.isFolder()) {
-            target_->opened(entry.name, info.modified);
+            target_.opened(entry.name, info.modified);
             return DirectoryWalker::Action::descend;
         }
-        target_->item(entry.name, info.allocatedSize, info.modified);
+        target_.item(entry.name, info.allocatedSize, info.modified);
         if (entry.depth == 1)
             handOverIfDue();
         return DirectoryWalker::Action::skip;
@@ -337,7 +326,7 @@ public:
 
     void leave(const DirectoryWalker::Entry&) override
     {
-        target_->closed();
+        target_.closed();
         handOverIfDue();
     }
 
@@ -349,7 +338,7 @@ public:
         if (folder.depth == 0)
             rootUnreadable_ = true;
         else
-            target_->unreadable();
+            target_.unreadable();
     }
 
     // Nothing is known of it, not even that it is a folder: it counts as a file of 0 bytes.
@@ -357,69 +346,75 @@ public:
     {
         if (stopping() || (skipsHidden_ && isHidden(name)))
             return;
-        target_->item(name, 0, std::nullopt);
+        target_.item(name, 0, std::nullopt);
         if (depth == 1)
             handOverIfDue();
-    }
-
-    // After the walk: waits until everything handed over is built, and passes on the builder's
-    // failure. The tree is then the gatherer's, on this thread.
-    void finish()
-    {
-        waitForBuilder();
-        if (builderFailure_)
-            std::rethrow_exception(std::exchange(builderFailure_, nullptr));
     }
 
     bool rootUnreadable() const { return rootUnreadable_; }
 
 private:
-    bool building() const { return builder_.joinable(); }
-
-    bool stopping() const { return (token_ && token_->isCancelled()) || (building() && queue_.abandoned()); }
-
-    void startBuilder()
-    {
-        // While this is the only thread, the descriptor table grows without waiting on the others.
-        DirectoryWalker::reserveDescriptors(rootDescriptor_);
-        try {
-            builder_ = std::thread([this] {
-                try {
-                    queue_.replayInto(gatherer_);
-                } catch (...) {
-                    builderFailure_ = std::current_exception();
-                }
-            });
-        } catch (const std::system_error&) {
-            return;  // no thread to be had: building goes on here
-        }
-        target_ = &queue_;
-    }
+    bool stopping() const { return (token_ && token_->isCancelled()) || (queue_ && queue_->abandoned()); }
 
     void handOverIfDue()
     {
-        if (building())
-            queue_.handOverIfDue();
+        if (queue_)
+            queue_->handOverIfDue();
     }
 
-    void waitForBuilder()
-    {
-        if (!building())
-            return;
-        queue_.finish();
-        builder_.join();
-    }
-
-    TreeGatherer& gatherer_;
-    TreeEventQueue queue_;
-    TreeEvents* target_;  // the gatherer, then the queue once building has moved
-    const int rootDescriptor_;
+    TreeEvents& target_;
+    TreeEventQueue* const queue_;  // none when building on the walking thread
     const CancelToken* const token_;
     const bool skipsHidden_;
-    std::uint32_t entriesSeen_ = 0;
     bool rootUnreadable_ = false;
-    std::thread builder_;
-    std::exception_ptr builderFailure_;
+};
+
+// Walks below `descriptor` on a thread made for the walk and builds the tree on this one, so
+// that building (making records, sorting folders, touching new memory) overlaps the walk's
+// waiting in the kernel; the events keep the walk's order, so the tree and what is streamed are
+// the same as building on one thread. The walking thread takes a descriptor table of its own,
+// which makes each of its metadata calls cheaper, and hands everything over through the queue:
+// the callbacks run here, with the process's descriptors at hand. Without a thread to be had,
+// does both here. False when the root's listing could not be read. A failure on either side
+// stops the other and goes on to the caller once both have ended.
+bool walkAndBuild(int descriptor, TreeGatherer& gatherer, const CancelToken* token, HiddenEntries hidden,
+                  DirectoryWalker::ReadAheadMode readAhead)
+{
+    TreeEventQueue queue;
+    WalkFront front(gatherer, &queue, token, hidden);
+    std::exception_ptr walkFailure;
+    std::thread walker;
+    try {
+        walker = std::thread([&] {
+            try {
+                DirectoryWalker::useOwnDescriptorTable(descriptor);
+                DirectoryWalker::walkDescriptor(descriptor, front, readAhead);
+            } catch (...) {
+                walkFailure = std::current_exception();
+            }
+            queue.finish();
+        });
+    } catch (const std::system_error&) {
+        WalkFront here(gatherer, nullptr, token, hidden);
+        DirectoryWalker::walkDescriptor(descriptor, here, readAhead);
+        return !here.rootUnreadable();
+    }
+    try {
+        queue.replayInto(gatherer);  // abandons the queue if building fails, which stops the walk
+    } catch (...) {
+        walker.join();
+        throw;
+    }
+    walker.join();
+    if (walkFailure)
+        std::rethrow_exception(walkFailure);
+    return !front.rootUnreadable();
+}
+
+// Closes the root's descriptor however the scan ends.
+struct ClosedAtEnd {
+    const int descriptor;
+    ~ClosedAtEnd() { close(descriptor); }
 };
 
 // An absolute path without trailing slashes, as the ids of the tree spell it.
@@ -469,12 +464,9 @@ DiskNode scanStreaming(const std::string& root, const std::shared_ptr<CancelToke
     if (descriptor < 0)
         return emptyFolder(prefix, name);
 
+    const ClosedAtEnd closing{descriptor};
     TreeGatherer gatherer(path, token.get(), onProgress, onChild);
-    WalkFront front(gatherer, descriptor, token.get(), hidden);
-    DirectoryWalker::walkDescriptor(descriptor, front, readAhead);
-    close(descriptor);  // before finish(), which passes on a builder's failure
-    front.finish();
-    if (front.rootUnreadable())
+    if (!walkAndBuild(descriptor, gatherer, token.get(), hidden, readAhead))
         return emptyFolder(prefix, name);
     return gatherer.finish(prefix, name, modified);
 }

@@ -4,9 +4,15 @@
 #include "Support/TempHome.h"
 #include "Support/TreeBuilder.h"
 
+#include <fcntl.h>
 #include <filesystem>
+#include <future>
+#include <poll.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <thread>
+#include <unistd.h>
+#include <vector>
 
 namespace fs = std::filesystem;
 
@@ -64,6 +70,40 @@ TEST_F(TempHomeTest, WalkerGoesThousandsOfLevelsDeepWithinTheDescriptorLimit)
 
     EXPECT_TRUE(FileSystem::removeItem(root + "/level-with-a-longish-name"));
     EXPECT_EQ(TreeBuilder::chainDepth(root, "level-with-a-longish-name"), 0);
+}
+
+// A walking thread's own table keeps the folder it walks and the standard three, and nothing else
+// of the process's: a pipe the process closes ends while the walk goes on, which a copy held by
+// the walk would prevent. The process keeps everything it had.
+TEST_F(TempHomeTest, AWalkingThreadHoldsNoneOfTheProcesssOtherDescriptors)
+{
+    int below[2], above[2];
+    ASSERT_EQ(pipe2(below, O_CLOEXEC), 0);
+    const int folder = open(tempHome.home().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    ASSERT_EQ(pipe2(above, O_CLOEXEC), 0);
+    std::promise<std::vector<bool>> seenByWalk;
+    std::promise<void> done;
+    std::thread walk([&] {
+        const bool own = DirectoryWalker::useOwnDescriptorTable(folder);
+        std::vector<bool> open{own};
+        for (const int descriptor : {folder, STDERR_FILENO, below[1], above[1]})
+            open.push_back(fcntl(descriptor, F_GETFD) >= 0);
+        seenByWalk.set_value(open);
+        done.get_future().wait();
+    });
+    EXPECT_EQ(seenByWalk.get_future().get(), (std::vector<bool>{true, true, true, false, false}));
+    for (const int* ends : {below, above}) {
+        close(ends[1]);
+        pollfd reader{ends[0], POLLIN, 0};
+        EXPECT_EQ(poll(&reader, 1, 5000), 1);
+        EXPECT_TRUE(reader.revents & POLLHUP) << "the walk still holds the writing end";
+    }
+    done.set_value();
+    walk.join();
+    for (const int descriptor : {folder, below[0], above[0]}) {
+        EXPECT_GE(fcntl(descriptor, F_GETFD), 0);
+        close(descriptor);
+    }
 }
 
 TEST_F(TempHomeTest, WalkerNeverFollowsLinksAndSurvivesLoops)

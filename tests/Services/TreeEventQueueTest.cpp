@@ -109,12 +109,13 @@ TEST(TreeEventQueueTest, EventsThatWaitedLongEnoughArriveBeforeMoreCome)
                 std::this_thread::sleep_for(1ms);
             arrivedInTime.push_back(arrived == expected);
         };
-        // Two batches exactly: with their 24-byte headers, 256 of these fill one.
-        for (int i = 0; i < 512; ++i)
+        // Two of the first batches exactly: each event takes 64 bytes with its header.
+        const std::size_t twoBatches = 2 * TreeEventQueue::firstBatchBytes / 64;
+        for (std::size_t i = 0; i < twoBatches; ++i)
             queue.item(std::string(40, 'f'), 512, std::nullopt);
-        handOverAfterAWait(512);
+        handOverAfterAWait(twoBatches);
         queue.opened("slow", {});
-        handOverAfterAWait(513);
+        handOverAfterAWait(twoBatches + 1);
         queue.finish();
     });
     Recorder builder;
@@ -122,7 +123,7 @@ TEST(TreeEventQueueTest, EventsThatWaitedLongEnoughArriveBeforeMoreCome)
     queue.replayInto(builder);
     walker.join();
     EXPECT_EQ(arrivedInTime, (std::vector<bool>{true, true}));
-    ASSERT_EQ(builder.seen.size(), 513u);
+    ASSERT_EQ(builder.seen.size(), 2 * TreeEventQueue::firstBatchBytes / 64 + 1);
     EXPECT_EQ(builder.seen.back(), "opened slow 0");
 }
 
