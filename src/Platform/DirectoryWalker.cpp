@@ -84,10 +84,34 @@ long blocksRead()
     return getrusage(RUSAGE_THREAD, &usage) == 0 ? usage.ru_inblock : 0;
 }
 
+// Gives the calling thread a descriptor table of its own holding the standard three and `kept`
+// (not empty), grown at once to what the walk may keep open. False, with nothing changed, where
+// the system can't.
+bool useOwnDescriptorTable(std::vector<int> kept)
+{
+    std::sort(kept.begin(), kept.end());
+    // Unsharing and closing what lies above in one call: a kernel without it does neither. The
+    // copies closed are this thread's alone; the files stay open for the rest of the process.
+    const unsigned above = static_cast<unsigned>(std::max(kept.back(), STDERR_FILENO)) + 1;
+    if (close_range(above, ~0U, CLOSE_RANGE_UNSHARE) != 0)
+        return false;
+    int next = STDERR_FILENO + 1;
+    for (const int descriptor : kept) {
+        if (descriptor > next)
+            close_range(static_cast<unsigned>(next), static_cast<unsigned>(descriptor) - 1, 0);
+        next = std::max(next, descriptor + 1);
+    }
+    // Its own table grows without waiting on other threads, but helpers reading ahead would
+    // share it.
+    DirectoryWalker::reserveDescriptors(kept.front());
+    return true;
+}
+
 class Walk {
 public:
-    Walk(DirectoryWalker::Visitor& visitor, DirectoryWalker::ReadAheadMode readAhead)
-        : visitor_(visitor), buffer_(listingBufferWords), openDepthLimit_(openDepthLimit()), readAheadMode_(readAhead)
+    Walk(DirectoryWalker::Visitor& visitor, DirectoryWalker::ReadAheadMode readAhead, std::uint32_t aloneAfter)
+        : visitor_(visitor), buffer_(listingBufferWords), openDepthLimit_(openDepthLimit()), readAheadMode_(readAhead),
+          aloneAfter_(aloneAfter)
     {
     }
 
@@ -161,12 +185,30 @@ private:
         blocksAtLastLook_ = blocks;
     }
 
+    void considerGoingAlone()
+    {
+        if (aloneAfter_ == 0 || (entriesWalked_ += entriesBetweenLooks) < aloneAfter_)
+            return;
+        aloneAfter_ = 0;
+        visitor_.goingAlone();
+        // Helpers reading ahead share the table and close what they open in it.
+        if (readAhead_)
+            return;
+        std::vector<int> kept{borrowed_};
+        for (const Frame& frame : stack_) {
+            if (frame.descriptor >= 0)
+                kept.push_back(frame.descriptor);
+        }
+        useOwnDescriptorTable(std::move(kept));
+    }
+
     // Handles the entry at `start` in the listing of the folder at `level`; false ends the walk.
     bool step(std::size_t level, std::size_t start, std::size_t length)
     {
         if (++entriesSinceLook_ == entriesBetweenLooks) {
             entriesSinceLook_ = 0;
             considerReadingAhead();
+            considerGoingAlone();
         }
         const Frame& parent = stack_[level];
         // Not cleared first: the call fills it, and clearing it for every entry shows in a walk.
@@ -270,6 +312,8 @@ private:
     long blocksAtLastLook_ = 0;
     int coldLooksInARow_ = 0;
     std::uint32_t entriesSinceLook_ = 0;
+    std::uint32_t aloneAfter_;  // 0 once gone alone, or if never to
+    std::uint32_t entriesWalked_ = 0;  // as of the last look
     std::unique_ptr<ReadAhead> readAhead_;  // reads below the root's descriptor, which outlives the walk
 };
 
@@ -285,25 +329,19 @@ bool DirectoryWalker::walk(const std::string& root, Visitor& visitor)
     return completed;
 }
 
-bool DirectoryWalker::walkDescriptor(int folderDescriptor, Visitor& visitor, ReadAheadMode readAhead)
+bool DirectoryWalker::walkDescriptor(int folderDescriptor, Visitor& visitor, ReadAheadMode readAhead,
+                                     std::uint32_t aloneAfter)
 {
-    return Walk(visitor, readAhead).run(folderDescriptor);
+    return Walk(visitor, readAhead, aloneAfter).run(folderDescriptor);
 }
 
-bool DirectoryWalker::useOwnDescriptorTable(int rootDescriptor)
+void DirectoryWalker::reserveDescriptors(int anyDescriptor)
 {
-    // Unsharing and closing what lies above in one call: a kernel without it does neither. The
-    // copies closed are this thread's alone; the files stay open for the rest of the process.
-    const unsigned above = static_cast<unsigned>(std::max(rootDescriptor, STDERR_FILENO)) + 1;
-    if (close_range(above, ~0U, CLOSE_RANGE_UNSHARE) != 0)
-        return false;
-    if (rootDescriptor > STDERR_FILENO + 1)
-        close_range(STDERR_FILENO + 1, static_cast<unsigned>(rootDescriptor) - 1, 0);
-    // The table grows by doubling to hold the highest number in use: here at once, to what the
-    // walk keeps open and room for the helpers reading ahead, which share it.
-    constexpr int helpersHold = 256;
-    const int placeholder = fcntl(rootDescriptor, F_DUPFD_CLOEXEC, openDepthLimit() + helpersHold);
+    // Room for what the process holds besides the walk's own, which take the lowest free numbers.
+    constexpr int othersHeld = 256;
+    // The lowest free number from there on, so nothing open is touched; the table has grown to
+    // hold it by the time the call returns.
+    const int placeholder = fcntl(anyDescriptor, F_DUPFD_CLOEXEC, openDepthLimit() + othersHeld);
     if (placeholder >= 0)
         close(placeholder);
-    return true;
 }

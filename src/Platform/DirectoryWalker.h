@@ -2,6 +2,7 @@
 
 #include "Platform/ItemInfo.h"
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -45,6 +46,10 @@ public:
         {
             (void)parentDescriptor, (void)name, (void)depth;
         }
+        // Once, on the walking thread, before the walk may take a descriptor table of its own: from
+        // here on the visitor must reach nothing else the process has open (another thread's
+        // event-loop wake-up, a file, a socket), as its descriptors may not be there.
+        virtual void goingAlone() {}
         // Whether a folder whose listing broke off part-way is walked with the entries read
         // before the error, as a directory stream would (the default), or counts as unreadable.
         virtual bool walksPartialListings() const { return true; }
@@ -54,16 +59,22 @@ public:
     // as a folder, or the walk stopped early (a visitor's `stop`, or the tree moved under it).
     static bool walk(const std::string& root, Visitor& visitor);
 
-    // The same below an already open folder, which the walker does not close.
-    static bool walkDescriptor(int folderDescriptor, Visitor& visitor, ReadAheadMode readAhead = ReadAheadMode::off);
+    // The same below an already open folder, which the walker does not close. Given `aloneAfter`,
+    // once that many entries are walked the visitor hears goingAlone() and the walk gives its
+    // thread a descriptor table of its own, holding the walk's descriptors and the standard three.
+    // While other threads share a table, every call naming a descriptor takes and drops a
+    // reference on its file, which costs a walk a few percent. What the thread opens afterwards
+    // the rest of the process can't see, and what they open it can't: ask for it only on a
+    // thread made for the walk, which ends with it. Kept from where the system can't do it, and
+    // where helpers reading ahead share the table.
+    static bool walkDescriptor(int folderDescriptor, Visitor& visitor, ReadAheadMode readAhead = ReadAheadMode::off,
+                               std::uint32_t aloneAfter = 0);
 
-    // Gives the calling thread a descriptor table of its own holding only the standard three and
-    // `rootDescriptor`, grown at once to what the deepest walk keeps open. While other threads
-    // share a table, every call naming a descriptor takes and drops a reference on its file,
-    // which costs a walk a few percent; a table of its own also grows without waiting on the
-    // others. What the thread opens afterwards the rest of the process can't see, and what they
-    // open it can't: call it only on a thread made for the walk, which ends with it, and which
-    // hands what it finds to other threads through memory only. False, with nothing changed,
-    // where the system can't do it.
-    static bool useOwnDescriptorTable(int rootDescriptor);
+    // Grows the process's table of descriptors at once to what the deepest walk keeps open, given
+    // any open descriptor. The table only ever grows, by doubling, and in a process of several
+    // threads each growth waits for every processor to pass a quiet point; a walk thousands of
+    // levels deep would wait like that six times. Costs nothing to speak of before the process
+    // starts its threads, and once at most after.
+    static void reserveDescriptors(int anyDescriptor);
+
 };

@@ -296,14 +296,21 @@ private:
     SortScratch scratch_;
 };
 
-// Decides what the walk enters and passes on what it finds: to the queue that feeds the builder
-// on another thread, or straight to the builder when there is no other thread. Handing over to
-// the queue, a batch goes early where the builder reports something: a folder finished
+// Decides what the walk enters and passes on what it finds. It builds the tree on the walking
+// thread at first; once the walk has met enough entries to be worth it, building moves to the
+// thread that started the scan, fed in batches, so that it overlaps the walk's waiting in the
+// kernel, and the walk goes on alone with a descriptor table of its own. A small tree then costs
+// no batches in flight, and a large one no time spent building between two answers. Handing over
+// to the queue, a batch goes early where the builder reports something: a folder finished
 // (progress) or an entry of the root (streamed).
 class WalkFront final : public DirectoryWalker::Visitor {
 public:
-    WalkFront(TreeEvents& builder, TreeEventQueue* queue, const CancelToken* token, HiddenEntries hidden)
-        : target_(queue ? *queue : builder), queue_(queue), token_(token), skipsHidden_(hidden == HiddenEntries::skipped)
+    // Entries walked before building moves.
+    static constexpr std::uint32_t entriesBuiltHere = 20000;
+
+    // Without a queue, building stays on the walking thread.
+    WalkFront(TreeGatherer& gatherer, TreeEventQueue* queue, const CancelToken* token, HiddenEntries hidden)
+        : target_(&gatherer), queue_(queue), token_(token), skipsHidden_(hidden == HiddenEntries::skipped)
     {
     }
 
@@ -315,10 +322,10 @@ public:
             return DirectoryWalker::Action::skip;
         const ItemInfo& info = entry.info;
         if (info.isFolder()) {
-            target_.opened(entry.name, info.modified);
+            target_->opened(entry.name, info.modified);
             return DirectoryWalker::Action::descend;
         }
-        target_.item(entry.name, info.allocatedSize, info.modified);
+        target_->item(entry.name, info.allocatedSize, info.modified);
         if (entry.depth == 1)
             handOverIfDue();
         return DirectoryWalker::Action::skip;
@@ -326,7 +333,7 @@ public:
 
     void leave(const DirectoryWalker::Entry&) override
     {
-        target_.closed();
+        target_->closed();
         handOverIfDue();
     }
 
@@ -338,7 +345,7 @@ public:
         if (folder.depth == 0)
             rootUnreadable_ = true;
         else
-            target_.unreadable();
+            target_->unreadable();
     }
 
     // Nothing is known of it, not even that it is a folder: it counts as a file of 0 bytes.
@@ -346,40 +353,47 @@ public:
     {
         if (stopping() || (skipsHidden_ && isHidden(name)))
             return;
-        target_.item(name, 0, std::nullopt);
+        target_->item(name, 0, std::nullopt);
         if (depth == 1)
             handOverIfDue();
+    }
+
+    // The builder's callbacks reach the process's descriptors: they go with it.
+    void goingAlone() override
+    {
+        if (queue_)
+            target_ = queue_;
     }
 
     bool rootUnreadable() const { return rootUnreadable_; }
 
 private:
-    bool stopping() const { return (token_ && token_->isCancelled()) || (queue_ && queue_->abandoned()); }
+    bool handingOver() const { return target_ == queue_; }
+
+    bool stopping() const { return (token_ && token_->isCancelled()) || (handingOver() && queue_->abandoned()); }
 
     void handOverIfDue()
     {
-        if (queue_)
+        if (handingOver())
             queue_->handOverIfDue();
     }
 
-    TreeEvents& target_;
-    TreeEventQueue* const queue_;  // none when building on the walking thread
+    TreeEvents* target_;  // the gatherer, then the queue once building has moved
+    TreeEventQueue* const queue_;
     const CancelToken* const token_;
     const bool skipsHidden_;
     bool rootUnreadable_ = false;
 };
 
-// Walks below `descriptor` on a thread made for the walk and builds the tree on this one, so
-// that building (making records, sorting folders, touching new memory) overlaps the walk's
-// waiting in the kernel; the events keep the walk's order, so the tree and what is streamed are
-// the same as building on one thread. The walking thread takes a descriptor table of its own,
-// which makes each of its metadata calls cheaper, and hands everything over through the queue:
-// the callbacks run here, with the process's descriptors at hand. Without a thread to be had,
-// does both here. False when the root's listing could not be read. A failure on either side
-// stops the other and goes on to the caller once both have ended.
+// Walks below `descriptor` on a thread made for the walk, which builds the tree at first; a
+// large walk moves building here, so the callbacks run on one thread, then the other, never at
+// once. Without a thread to be had, does both here. False when the root's listing could not be
+// read. A failure on either side stops the other and goes on to the caller once both have ended.
 bool walkAndBuild(int descriptor, TreeGatherer& gatherer, const CancelToken* token, HiddenEntries hidden,
                   DirectoryWalker::ReadAheadMode readAhead)
 {
+    // Before there is one more thread to wait on at each growth.
+    DirectoryWalker::reserveDescriptors(descriptor);
     TreeEventQueue queue;
     WalkFront front(gatherer, &queue, token, hidden);
     std::exception_ptr walkFailure;
@@ -387,8 +401,7 @@ bool walkAndBuild(int descriptor, TreeGatherer& gatherer, const CancelToken* tok
     try {
         walker = std::thread([&] {
             try {
-                DirectoryWalker::useOwnDescriptorTable(descriptor);
-                DirectoryWalker::walkDescriptor(descriptor, front, readAhead);
+                DirectoryWalker::walkDescriptor(descriptor, front, readAhead, WalkFront::entriesBuiltHere);
             } catch (...) {
                 walkFailure = std::current_exception();
             }
@@ -400,7 +413,9 @@ bool walkAndBuild(int descriptor, TreeGatherer& gatherer, const CancelToken* tok
         return !here.rootUnreadable();
     }
     try {
-        queue.replayInto(gatherer);  // abandons the queue if building fails, which stops the walk
+        // Returns at once if the walk ends before building moves; abandons the queue if building
+        // fails, which stops the walk.
+        queue.replayInto(gatherer);
     } catch (...) {
         walker.join();
         throw;

@@ -30,9 +30,9 @@ constexpr HiddenEntries hiddenEntriesOn(PlatformProfile profile)
     return profile == PlatformProfile::macOS ? HiddenEntries::skipped : HiddenEntries::included;
 }
 
-// Blocks until the walk ends; the caller puts it on a background thread. Both callbacks run on
-// that thread, which builds the tree while a thread of the scan's own walks; one at a time, all
-// before the call returns, and they must not block.
+// Blocks until the walk ends; the caller puts it on a background thread. Both callbacks run on a
+// thread of the scan's own, then on the calling thread once a large walk has moved building the
+// tree there; one at a time either way, all before the call returns, and they must not block.
 // `onProgress` gets the bytes seen so far as folders finish, at most every 50 ms, and always just
 // before `onChild` gets a finished folder of the root. `onChild` gets each finished entry of the
 // root in listing order, so the map can be drawn while the walk goes on. `root` may begin with

@@ -52,14 +52,14 @@ void TreeEventQueue::put(Kind kind, std::string_view name, std::int64_t size, st
     if (filling_.empty()) {
         fillingSince_ = std::chrono::steady_clock::now();
         // A name is at most 255 bytes: a batch then never grows past its first storage.
-        filling_.reserve(fillingLimit_ + sizeof(Header) + 256);
+        filling_.reserve(batchBytes + sizeof(Header) + 256);
     }
     const Header header{size,     modified ? modified->time_since_epoch().count() : 0,
                         static_cast<std::uint32_t>(name.size()), static_cast<std::uint8_t>(kind),
                         modified.has_value(), {0, 0}};
     filling_.append(reinterpret_cast<const char*>(&header), sizeof header);
     filling_.append(name);
-    if (filling_.size() >= fillingLimit_)
+    if (filling_.size() >= batchBytes)
         handOver(Wake::whenSeveral);
 }
 
@@ -87,8 +87,6 @@ void TreeEventQueue::handOver(Wake wake)
     }
     std::swap(waiting_[(firstWaiting_ + waitingCount_) % batchesInFlight], filling_);
     ++waitingCount_;
-    if (++handedOver_ == firstBatches)
-        fillingLimit_ = batchBytes;
     // The slot held an empty string; a replayed batch's storage is reused when there is one.
     if (!spares_.empty()) {
         filling_ = std::move(spares_.back());

@@ -25,10 +25,6 @@ public:
     // Batches waiting when the builder is woken, unless one has waited longestWait.
     static constexpr std::size_t batchesPerWake = 4;
     static constexpr std::size_t batchBytes = 16 * 1024;
-    // The first batches are smaller, so that a small tree's scan holds little in flight beside
-    // the little it builds; a large one soon goes on in full batches.
-    static constexpr std::size_t firstBatchBytes = 4 * 1024;
-    static constexpr std::size_t firstBatches = 128;
     static constexpr auto longestWait = std::chrono::milliseconds(50);
 
     TreeEventQueue();
@@ -62,8 +58,6 @@ private:
     static void replay(const std::string& batch, TreeEvents& target);
 
     std::string filling_;  // the walking side's batch
-    std::size_t fillingLimit_ = firstBatchBytes;
-    std::size_t handedOver_ = 0;
     std::chrono::steady_clock::time_point fillingSince_;
     // Batches handed over that the builder may not have been woken for, and when the first of
     // them began filling.

@@ -4,6 +4,7 @@
 #include "Support/TempHome.h"
 #include "Support/TreeBuilder.h"
 
+#include <chrono>
 #include <fcntl.h>
 #include <filesystem>
 #include <future>
@@ -72,35 +73,69 @@ TEST_F(TempHomeTest, WalkerGoesThousandsOfLevelsDeepWithinTheDescriptorLimit)
     EXPECT_EQ(TreeBuilder::chainDepth(root, "level-with-a-longish-name"), 0);
 }
 
-// A walking thread's own table keeps the folder it walks and the standard three, and nothing else
-// of the process's: a pipe the process closes ends while the walk goes on, which a copy held by
-// the walk would prevent. The process keeps everything it had.
-TEST_F(TempHomeTest, AWalkingThreadHoldsNoneOfTheProcesssOtherDescriptors)
+// A walk gone alone keeps its own descriptors and the standard three, and nothing else of the
+// process's: a pipe the process closes ends while the walk goes on, which a copy held by the walk
+// would prevent. The walk still sees every entry, and the process keeps what it had.
+TEST_F(TempHomeTest, AWalkGoneAloneHoldsNoneOfTheProcesssOtherDescriptors)
 {
+    // It goes alone after 512 entries, two or three folders down, with their descriptors open.
+    std::string folder = "tree";
+    for (const char* level : {"a", "b", "c", "d"}) {
+        folder += std::string("/") + level;
+        for (int i = 0; i < 200; ++i)
+            tempHome.writeFile(folder + "/" + std::to_string(i));
+    }
     int below[2], above[2];
     ASSERT_EQ(pipe2(below, O_CLOEXEC), 0);
-    const int folder = open(tempHome.home().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    const int root = open((tempHome.home() + "/tree").c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     ASSERT_EQ(pipe2(above, O_CLOEXEC), 0);
-    std::promise<std::vector<bool>> seenByWalk;
-    std::promise<void> done;
-    std::thread walk([&] {
-        const bool own = DirectoryWalker::useOwnDescriptorTable(folder);
-        std::vector<bool> open{own};
-        for (const int descriptor : {folder, STDERR_FILENO, below[1], above[1]})
-            open.push_back(fcntl(descriptor, F_GETFD) >= 0);
-        seenByWalk.set_value(open);
-        done.get_future().wait();
-    });
-    EXPECT_EQ(seenByWalk.get_future().get(), (std::vector<bool>{true, true, true, false, false}));
+
+    struct Alone final : CountingVisitor {
+        int* writers[2];
+        std::promise<std::vector<bool>> seen;
+        std::promise<void> checked;
+        bool gone = false, looked = false;
+        void goingAlone() override { gone = true; }
+        // At the first entry after going alone, measurable or not.
+        void look(int parentDescriptor)
+        {
+            if (!gone || std::exchange(looked, true))
+                return;
+            std::vector<bool> open;
+            for (const int descriptor : {parentDescriptor, STDERR_FILENO, writers[0][1], writers[1][1]})
+                open.push_back(fcntl(descriptor, F_GETFD) >= 0);
+            seen.set_value(open);
+            checked.get_future().wait();
+        }
+        DirectoryWalker::Action visit(const DirectoryWalker::Entry& entry) override
+        {
+            look(entry.parentDescriptor);
+            return CountingVisitor::visit(entry);
+        }
+        void unmeasurable(int parentDescriptor, std::string_view, int) override { look(parentDescriptor); }
+    } visitor;
+    visitor.writers[0] = below;
+    visitor.writers[1] = above;
+    bool walked = false;
+    std::thread walk([&] { walked = DirectoryWalker::walkDescriptor(root, visitor, DirectoryWalker::ReadAheadMode::off, 1); });
+    auto seen = visitor.seen.get_future();
+    if (seen.wait_for(std::chrono::seconds(10)) != std::future_status::ready) {
+        walk.join();
+        FAIL() << "the walk never went alone";
+    }
+    EXPECT_EQ(seen.get(), (std::vector<bool>{true, true, false, false}));
     for (const int* ends : {below, above}) {
         close(ends[1]);
         pollfd reader{ends[0], POLLIN, 0};
         EXPECT_EQ(poll(&reader, 1, 5000), 1);
         EXPECT_TRUE(reader.revents & POLLHUP) << "the walk still holds the writing end";
     }
-    done.set_value();
+    visitor.checked.set_value();
     walk.join();
-    for (const int descriptor : {folder, below[0], above[0]}) {
+    EXPECT_TRUE(walked);
+    EXPECT_EQ(visitor.entries, 804);
+    EXPECT_EQ(visitor.left, 4);
+    for (const int descriptor : {root, below[0], above[0]}) {
         EXPECT_GE(fcntl(descriptor, F_GETFD), 0);
         close(descriptor);
     }

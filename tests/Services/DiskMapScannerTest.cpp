@@ -273,10 +273,10 @@ TEST_F(DiskMapScannerTest, ReportsProgressBeforeEachStreamedFolder)
     EXPECT_EQ(streamedTotal, root.size());
 }
 
-// The walk hands its entries to the building thread in batches, small ones first, then full
-// ones: across hundreds of them nothing may be lost or doubled, the streamed entries keep their
-// order, and cancelling still stops the walk with a consistent tree.
-TEST_F(DiskMapScannerTest, ALargeWalkHandedOverInBatchesLosesNothing)
+// Past a number of entries, building moves off the walking thread mid-walk: nothing may be lost
+// or doubled at the move, the streamed entries keep their order, and cancelling still stops the
+// walk with a consistent tree.
+TEST_F(DiskMapScannerTest, ALargeWalkMovesBuildingElsewhereWithoutLosingAnything)
 {
     // Hard links to one file: quicker to make than as many files, and each counts in full.
     const std::string original = path("original");
@@ -296,7 +296,7 @@ TEST_F(DiskMapScannerTest, ALargeWalkHandedOverInBatchesLosesNothing)
     EXPECT_EQ(root.itemCount(), files + 5) << "every file, the four folders and the root";
     expectConsistent(root);
 
-    // Cancelling when the third folder finishes leaves the fourth out.
+    // The third folder finishes past the move: cancelling then leaves the fourth out.
     auto token = std::make_shared<CancelToken>();
     int reports = 0;
     const DiskNode partial = scan(path("root"), token, [&](std::int64_t) {

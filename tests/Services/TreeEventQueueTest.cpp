@@ -109,13 +109,12 @@ TEST(TreeEventQueueTest, EventsThatWaitedLongEnoughArriveBeforeMoreCome)
                 std::this_thread::sleep_for(1ms);
             arrivedInTime.push_back(arrived == expected);
         };
-        // Two of the first batches exactly: each event takes 64 bytes with its header.
-        const std::size_t twoBatches = 2 * TreeEventQueue::firstBatchBytes / 64;
-        for (std::size_t i = 0; i < twoBatches; ++i)
+        // Two batches exactly: with their 24-byte headers, 256 of these fill one.
+        for (int i = 0; i < 512; ++i)
             queue.item(std::string(40, 'f'), 512, std::nullopt);
-        handOverAfterAWait(twoBatches);
+        handOverAfterAWait(512);
         queue.opened("slow", {});
-        handOverAfterAWait(twoBatches + 1);
+        handOverAfterAWait(513);
         queue.finish();
     });
     Recorder builder;
@@ -123,7 +122,7 @@ TEST(TreeEventQueueTest, EventsThatWaitedLongEnoughArriveBeforeMoreCome)
     queue.replayInto(builder);
     walker.join();
     EXPECT_EQ(arrivedInTime, (std::vector<bool>{true, true}));
-    ASSERT_EQ(builder.seen.size(), 2 * TreeEventQueue::firstBatchBytes / 64 + 1);
+    ASSERT_EQ(builder.seen.size(), 513u);
     EXPECT_EQ(builder.seen.back(), "opened slow 0");
 }
 
