@@ -85,16 +85,16 @@ long blocksRead()
 }
 
 // Gives the calling thread a descriptor table of its own holding the standard three and `kept`
-// (not empty), grown at once to what the walk may keep open. False, with nothing changed, where
-// the system can't.
-bool useOwnDescriptorTable(std::vector<int> kept)
+// (not empty), grown at once to what the walk may keep open. Changes nothing where the system
+// can't.
+void useOwnDescriptorTable(std::vector<int> kept)
 {
     std::sort(kept.begin(), kept.end());
     // Unsharing and closing what lies above in one call: a kernel without it does neither. The
     // copies closed are this thread's alone; the files stay open for the rest of the process.
     const unsigned above = static_cast<unsigned>(std::max(kept.back(), STDERR_FILENO)) + 1;
     if (close_range(above, ~0U, CLOSE_RANGE_UNSHARE) != 0)
-        return false;
+        return;
     int next = STDERR_FILENO + 1;
     for (const int descriptor : kept) {
         if (descriptor > next)
@@ -104,7 +104,6 @@ bool useOwnDescriptorTable(std::vector<int> kept)
     // Its own table grows without waiting on other threads, but helpers reading ahead would
     // share it.
     DirectoryWalker::reserveDescriptors(kept.front());
-    return true;
 }
 
 class Walk {

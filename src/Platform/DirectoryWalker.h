@@ -65,8 +65,8 @@ public:
     // While other threads share a table, every call naming a descriptor takes and drops a
     // reference on its file, which costs a walk a few percent. What the thread opens afterwards
     // the rest of the process can't see, and what they open it can't: ask for it only on a
-    // thread made for the walk, which ends with it. Kept from where the system can't do it, and
-    // where helpers reading ahead share the table.
+    // thread made for the walk, which ends with it. Skipped where the system can't do it, and
+    // where helpers reading ahead already share the table.
     static bool walkDescriptor(int folderDescriptor, Visitor& visitor, ReadAheadMode readAhead = ReadAheadMode::off,
                                std::uint32_t aloneAfter = 0);
 
@@ -76,5 +76,4 @@ public:
     // levels deep would wait like that six times. Costs nothing to speak of before the process
     // starts its threads, and once at most after.
     static void reserveDescriptors(int anyDescriptor);
-
 };

@@ -358,7 +358,8 @@ public:
             handOverIfDue();
     }
 
-    // The builder's callbacks reach the process's descriptors: they go with it.
+    // Building moves to the thread that started the scan: its callbacks need the process's
+    // descriptors, which the walk is about to leave.
     void goingAlone() override
     {
         if (queue_)
